@@ -1,0 +1,1 @@
+# zeplet_add_plugin(NAME name SOURCES ...): see the function in this file.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QTableWidget>
+
+namespace zeplet
+{
+class ZepletEvent;
+}
+
+/** The newest events, one a row: time, sequence number, type, source and data. */
+class EventTable : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EventTable(QWidget *parent = nullptr);
+
+    /** Adds a row at the top; the oldest row goes where there are too many. */
+    void add(const zeplet::ZepletEvent &event);
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "watchlist.h"
+
+#include <QWidget>
+
+class EventTable;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+
+namespace zeplet
+{
+class ZepletEvent;
+}
+
+/** The plugin's centre page: a line to watch something, and the table of events. */
+class MonitorPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MonitorPage(const QString &pluginName, QWidget *parent = nullptr);
+
+    void show(const zeplet::ZepletEvent &event);
+    void clear();
+
+Q_SIGNALS:
+    void fullScreenRequested(bool full);
+
+private:
+    QWidget *createHeader();
+    QWidget *createWatchLine();
+    void startWatch(WatchList::Kind kind);
+    void addChip(WatchList::Kind kind, const QString &name);
+
+    WatchList m_watches;
+    QLineEdit *m_name = nullptr;
+    QHBoxLayout *m_chips = nullptr;
+    EventTable *m_table = nullptr;
+};

@@ -9,18 +9,26 @@
 namespace ostrel
 {
 
-/** Contract sketch: console stream; one statement, one line. */
+/**
+ * Console stream: one statement, one line. The caller composes colour and prefix; the line goes to
+ * the message handler at debug level, category "default", when the stream dies. A stream is used
+ * on the thread that made it.
+ */
 class HOST_EXPORT QLog
 {
 public:
+    /** Starts the line with the three texts, without separators. */
     QLog(const QString &colour, const QString &prefix, const QString &tag);
     ~QLog();
     QLog(const QLog &) = delete;
     QLog &operator=(const QLog &) = delete;
 
     QLog &operator<<(const QString &text);
+    /** UTF-8; without it a text literal would print as an address. */
+    QLog &operator<<(const char *text);
     QLog &operator<<(const QVariant &value);
     QLog &operator<<(const void *pointer);
+    /** From now on a blank follows each item; writes nothing itself. */
     QLog &space();
 
 private:
@@ -28,7 +36,12 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/** File stream: base path and extension become a dated file name. */
+/**
+ * File stream: the line is appended to "base_yyyyMMdd.ext", or "base_yyyyMMdd_index.ext" with the
+ * first index whose file is below 10 MiB, by one write when the stream dies. Missing directories
+ * are made. A failure is one warning in the category "default", and the line is lost; the next one
+ * tries again. A stream is used on the thread that made it; any number may append to one file.
+ */
 class HOST_EXPORT FLog
 {
 public:
@@ -38,6 +51,7 @@ public:
     FLog &operator=(const FLog &) = delete;
 
     FLog &operator<<(const QString &text);
+    FLog &operator<<(const char *text);
     FLog &operator<<(const QVariant &value);
     FLog &operator<<(const void *pointer);
     FLog &space();
@@ -57,6 +71,7 @@ public:
     QFLog &operator=(const QFLog &) = delete;
 
     QFLog &operator<<(const QString &text);
+    QFLog &operator<<(const char *text);
     QFLog &operator<<(const QVariant &value);
     QFLog &operator<<(const void *pointer);
     QFLog &space();

@@ -1,0 +1,182 @@
+#include "pluginloader.h"
+
+#include "plugincheck.h"
+#include "startguard.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QLibrary>
+#include <QSet>
+#include <kest/modulefactory.h>
+#include <locale.h>
+#include <ostrel/moduleobject.h>
+
+namespace panel
+{
+
+namespace
+{
+
+/** The linker's messages in English, on this thread alone: linkerSentence() reads them. */
+class EnglishMessages
+{
+public:
+    EnglishMessages()
+        : m_own(newlocale(LC_MESSAGES_MASK, "C", duplocale(LC_GLOBAL_LOCALE)))
+        , m_before(uselocale(m_own))
+    {
+    }
+    ~EnglishMessages()
+    {
+        uselocale(m_before);
+        freelocale(m_own);
+    }
+    EnglishMessages(const EnglishMessages &) = delete;
+    EnglishMessages &operator=(const EnglishMessages &) = delete;
+
+private:
+    locale_t m_own;
+    locale_t m_before;
+};
+
+QSet<QString> registeredModules()
+{
+    const QList<QString> names = bfactory().makers.keys();
+    return QSet<QString>(names.begin(), names.end());
+}
+
+void refuse(PluginRecord *record, const QString &sentence)
+{
+    record->state = PluginRecord::Refused;
+    record->sentence = sentence;
+    record->modules.clear();
+}
+
+} // namespace
+
+PluginLoader::PluginLoader(StartGuard &guard, QObject *parent)
+    : QObject(parent)
+    , m_guard(guard)
+{
+    connect(m(QStringLiteral("panel.retry")), &ostrel::ModuleObject::changed, this,
+            [this](const QVariant &name) { tryAgain(name.toString()); });
+}
+
+void PluginLoader::loadDirectory(const QString &path)
+{
+    const QDir directory(path);
+    if (!directory.exists())
+        qWarning("panel: the plugin directory %s does not exist", qPrintable(path));
+    const QFileInfoList files = directory.entryInfoList(
+        {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
+    for (const QFileInfo &file : files) {
+        m_records.append(load(file));
+        if (!m_records.last().sentence.isEmpty())
+            qInfo("panel: %s", qPrintable(m_records.last().sentence));
+    }
+    mirror();
+}
+
+PluginRecord PluginLoader::load(const QFileInfo &file)
+{
+    PluginRecord record = checkPlugin(file);
+    if (record.state != PluginRecord::Running)
+        return record;
+    if (m_guard.isLeftOut(record.tag.name, file)) {
+        record.state = PluginRecord::LeftOut;
+        record.sentence = tr("%1 was left out because the panel went down in its %2: replace it "
+                             "with a corrected one, or try it again.")
+                              .arg(file.fileName(), m_guard.fatalStep(record.tag.name));
+        return record;
+    }
+    if (bfactory().makers.contains(record.tag.name)) {
+        refuse(
+            &record,
+            tr("%1 registers the name \"%2\", which is taken: remove it, or give it a name of its "
+               "own.")
+                .arg(file.fileName(), record.tag.name));
+        return record;
+    }
+    open(&record);
+    return record;
+}
+
+void PluginLoader::open(PluginRecord *record)
+{
+    const QString file = record->file.fileName();
+    const QString path = record->file.absoluteFilePath();
+    const QSet<QString> before = registeredModules();
+    m_guard.enter(record->tag.name, QStringLiteral("loading"), path);
+    QLibrary library(path);
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    const EnglishMessages english;
+    const bool loaded = library.load();
+    m_guard.leave();
+    if (!loaded) {
+        refuse(record, linkerSentence(file, library.errorString()));
+        return;
+    }
+
+    const QSet<QString> added = registeredModules() - before;
+    if (added.isEmpty()) {
+        refuse(record,
+               tr("%1 registers no plugin named \"%2\": call zepletFactory().regist() in a "
+                  "static initialiser of the library.")
+                   .arg(file, record->tag.name));
+        return;
+    }
+    if (!added.contains(record->tag.name)) {
+        refuse(record,
+               tr("%1 registers \"%2\" but is tagged \"%3\": use one name for both.")
+                   .arg(file, added.values().join(QStringLiteral("\", \"")), record->tag.name));
+        return;
+    }
+    record->modules = added.values();
+    record->modules.sort();
+}
+
+const QList<PluginRecord> &PluginLoader::records() const
+{
+    return m_records;
+}
+
+QStringList PluginLoader::moduleNames() const
+{
+    QStringList names;
+    for (const PluginRecord &record : m_records)
+        names += record.modules;
+    return names;
+}
+
+void PluginLoader::markFaulty(const QString &module, const QString &sentence)
+{
+    for (PluginRecord &record : m_records) {
+        if (!record.modules.contains(module))
+            continue;
+        record.state = PluginRecord::Faulty;
+        record.sentence = sentence;
+    }
+    mirror();
+}
+
+void PluginLoader::tryAgain(const QString &name)
+{
+    if (!m_guard.tryAgain(name))
+        return;
+    for (PluginRecord &record : m_records) {
+        if (record.state == PluginRecord::LeftOut && record.tag.name == name)
+            record.sentence
+                = tr("%1 takes part again when the panel starts next.").arg(record.file.fileName());
+    }
+    mirror();
+}
+
+void PluginLoader::mirror() const
+{
+    QJsonArray list;
+    for (const PluginRecord &record : m_records)
+        list.append(record.toJson());
+    m(QStringLiteral("panel.plugins"))->importFromJson(nullptr, list, true, true, true);
+}
+
+} // namespace panel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "pluginrecord.h"
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+namespace panel
+{
+
+class StartGuard;
+
+/**
+ * Finds plugin libraries, opens those that fit and keeps a record of each. An open library stays
+ * for the life of the process, because what it registered points into it. The records are mirrored
+ * into the data store as the list "panel.plugins". GUI thread.
+ */
+class PluginLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PluginLoader(StartGuard &guard, QObject *parent = nullptr);
+
+    /** Loads every library (*.so) of the directory, in the order of their names. A directory that
+     *  does not exist is logged. Runs the libraries' initialisers; blocks for the disk. */
+    void loadDirectory(const QString &path);
+
+    const QList<PluginRecord> &records() const;
+    /** The modules that the loaded libraries offer, in the order of loading. */
+    QStringList moduleNames() const;
+
+    /** Marks the plugin of that module with a sentence that says why it no longer runs. */
+    void markFaulty(const QString &module, const QString &sentence);
+    /** Lets a plugin that was left out take part in the next start. */
+    void tryAgain(const QString &name);
+
+private:
+    PluginRecord load(const QFileInfo &file);
+    void open(PluginRecord *record);
+    void mirror() const;
+
+    StartGuard &m_guard;
+    QList<PluginRecord> m_records;
+};
+
+} // namespace panel

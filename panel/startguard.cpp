@@ -1,0 +1,131 @@
+#include "startguard.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QStringList>
+#include <sys/file.h>
+
+namespace panel
+{
+
+namespace
+{
+
+/** Enough for a name, a step and a path. */
+constexpr qint64 maximumListSize = 1 << 20;
+constexpr qint64 maximumEntrySize = 8192;
+
+QJsonObject fileState(const QFileInfo &library)
+{
+    return {{"file", library.absoluteFilePath()},
+            {"size", library.size()},
+            {"modified", library.lastModified().toUTC().toString(Qt::ISODateWithMs)}};
+}
+
+QJsonObject readList(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QJsonDocument::fromJson(file.read(maximumListSize)).object();
+}
+
+} // namespace
+
+StartGuard::StartGuard(const QString &runtimeDirectory)
+    : m_listFile(QDir(runtimeDirectory).filePath(QStringLiteral("left-out.json")))
+    , m_starting(QDir(runtimeDirectory).filePath(QStringLiteral("starting")))
+{
+    m_active = QDir().mkpath(runtimeDirectory) && lock();
+    if (!m_active)
+        return;
+    m_leftOut = readList(m_listFile);
+    evaluateLastStart();
+}
+
+StartGuard::~StartGuard()
+{
+    leave();
+}
+
+bool StartGuard::isActive() const
+{
+    return m_active;
+}
+
+/** Holds the file for the life of this object; the system lets go of it when the process dies. */
+bool StartGuard::lock()
+{
+    return m_starting.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
+        && flock(m_starting.handle(), LOCK_EX | LOCK_NB) == 0;
+}
+
+void StartGuard::evaluateLastStart()
+{
+    const QStringList entry = QString::fromUtf8(m_starting.read(maximumEntrySize)).split('\n');
+    leave();
+    if (entry.size() < 3)
+        return;
+    // A path may hold line breaks itself.
+    QJsonObject state = fileState(QFileInfo(entry.mid(2).join('\n')));
+    state.insert(QStringLiteral("step"), entry.at(1));
+    m_leftOut.insert(entry.at(0), state);
+    save();
+}
+
+void StartGuard::enter(const QString &name, const QString &step, const QString &library)
+{
+    if (!library.isEmpty())
+        m_libraries.insert(name, library);
+    // A module without a library is the host's own: there is nothing to leave out.
+    if (!m_active || !m_libraries.contains(name))
+        return;
+    const QStringList entry {name, step, m_libraries.value(name)};
+    m_starting.resize(0);
+    m_starting.seek(0);
+    m_starting.write(entry.join('\n').toUtf8());
+}
+
+void StartGuard::leave()
+{
+    if (m_active)
+        m_starting.resize(0);
+}
+
+bool StartGuard::isLeftOut(const QString &name, const QFileInfo &library) const
+{
+    const auto known = m_leftOut.find(name);
+    if (known == m_leftOut.end())
+        return false;
+    QJsonObject state = known->toObject();
+    state.remove(QStringLiteral("step"));
+    return state == fileState(library);
+}
+
+QString StartGuard::fatalStep(const QString &name) const
+{
+    return m_leftOut.value(name).toObject().value(QStringLiteral("step")).toString();
+}
+
+bool StartGuard::tryAgain(const QString &name)
+{
+    if (!m_leftOut.contains(name))
+        return false;
+    m_leftOut.remove(name);
+    save();
+    return true;
+}
+
+void StartGuard::save() const
+{
+    QSaveFile file(m_listFile);
+    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(m_leftOut).toJson()) >= 0
+        && file.commit())
+        return;
+    qWarning("panel: %s can't be written: %s", qPrintable(m_listFile),
+             qPrintable(file.errorString()));
+}
+
+} // namespace panel

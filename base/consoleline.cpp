@@ -4,7 +4,7 @@ namespace logbase
 {
 
 ConsoleLine::ConsoleLine(const QString &colour, const QString &prefix, const QString &tag)
-    : m_debug(QMessageLogger().debug())
+    : m_debug(QMessageLogger(nullptr, 0, nullptr).debug())
 {
     m_debug.nospace().noquote() << colour << prefix;
     if (!tag.isEmpty()) {
@@ -20,7 +20,8 @@ ConsoleLine::~ConsoleLine()
 // By way of UTF-8, as in the file: what cannot be encoded looks the same in both places.
 void ConsoleLine::appendItem(const QString &text)
 {
-    m_debug << QString::fromUtf8(text.toUtf8());
+    const QByteArray utf8 = text.toUtf8();
+    m_debug << QString::fromUtf8(utf8.constData(), utf8.size());
 }
 
 void ConsoleLine::appendItem(const void *pointer)

@@ -42,6 +42,7 @@ private:
     QPointer<QWidget> m_page;
     QPointer<QWidget> m_title;
     QPointer<QWidget> m_content;
+    int m_renderedRevision = 0;
 };
 
 } // namespace brisa

@@ -1,0 +1,92 @@
+#include "brisa/basesettingpage.h"
+
+#include "brisa/elidedlabel.h"
+#include "brisa/thememanager.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace brisa
+{
+
+namespace
+{
+
+constexpr int DefaultAutoSaveInterval = 10000;
+
+QWidget *makeTitleBar(const QString &title, QWidget *page)
+{
+    auto *const bar = new QWidget(page);
+    bar->setFixedHeight(metrics::Touch);
+    auto *const label = new ElidedLabel(title, bar);
+    label->setFont(ThemeManager::font(TextSize::Title, true));
+    auto *const row = new QHBoxLayout(bar);
+    row->setContentsMargins(metrics::Margin, 0, metrics::Margin, 0);
+    row->addWidget(label);
+    return bar;
+}
+
+} // namespace
+
+BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName, QWidget *parent,
+                                 QObject *module)
+    : QObject(module)
+    , m_page(new QWidget(parent))
+    , m_title(makeTitleBar(pluginName.isEmpty() ? name : pluginName, m_page))
+    , m_content(new QWidget(m_page))
+{
+    m_page->setObjectName(name + QLatin1Char('.') + pluginName);
+    auto *const column = new QVBoxLayout(m_page);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_title);
+    column->addWidget(m_content, 1);
+}
+
+BaseSettingPage::~BaseSettingPage()
+{
+    delete m_page.data();
+}
+
+QWidget *BaseSettingPage::wgt()
+{
+    return m_page;
+}
+
+int BaseSettingPage::autoSaveInterval() const
+{
+    return DefaultAutoSaveInterval;
+}
+
+bool BaseSettingPage::loadFromMobj()
+{
+    return true;
+}
+
+void BaseSettingPage::loadFromRC() { }
+
+void BaseSettingPage::saveToRC() { }
+
+void BaseSettingPage::saveToMobj() { }
+
+QWidget *BaseSettingPage::titleWidget() const
+{
+    return m_title;
+}
+
+QWidget *BaseSettingPage::contentWidget() const
+{
+    return m_content;
+}
+
+void BaseSettingPage::startRender()
+{
+    const ThemeManager *const theme = ThemeManager::instance();
+    if (!m_page || m_renderedRevision == theme->revision())
+        return;
+    m_renderedRevision = theme->revision();
+    m_page->setStyleSheet(theme->styleSheet());
+}
+
+} // namespace brisa

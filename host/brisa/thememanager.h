@@ -1,0 +1,101 @@
+#pragma once
+
+#include "hostexport.h"
+
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QPalette>
+#include <QString>
+
+namespace brisa
+{
+
+/** Lengths in device independent pixels on a grid of 8. */
+namespace metrics
+{
+constexpr int Grid = 8;
+constexpr int Margin = 16; ///< between a surface's edge and its content
+constexpr int Touch = 56; ///< what a finger hits; 9 mm on a 10.1 inch screen of 1280 x 800 are 53
+constexpr int Radius = 6;
+constexpr int Icon = 24;
+} // namespace metrics
+
+/** The four sizes of type, in pixels. */
+enum class TextSize { Caption = 13, Body = 15, Title = 18, Heading = 24 };
+
+enum class Theme { Light, Dark };
+
+/** One accent, neutral surfaces, and three colours that mean something. */
+struct ThemeColours {
+    QColor window; ///< behind the surfaces
+    QColor surface; ///< cards and bars
+    QColor raised; ///< controls on a surface
+    QColor border;
+    QColor text;
+    QColor mutedText; ///< captions and hints
+    QColor disabledText;
+    QColor accent;
+    QColor onAccent; ///< text on the accent
+    QColor accentSoft; ///< selection
+    QColor ok, okSoft;
+    QColor warning, warningSoft;
+    QColor error, errorSoft;
+};
+
+/**
+ * The panel's looks: colours, type and style sheet of the current theme. GUI thread. The first one
+ * alive is instance().
+ */
+class HOST_EXPORT ThemeManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ThemeManager(QObject *parent = nullptr);
+    ~ThemeManager() override;
+
+    /** The host's theme manager, made on first use. Never null. */
+    static ThemeManager *instance();
+
+    Theme theme() const;
+    /** Changes the looks of what follows themeChanged(), and of the application after
+     *  applyToApplication(). Nothing happens where the theme is the current one. */
+    void setTheme(Theme theme);
+    /** "light" or "dark"; false, with nothing changed, for another name. */
+    bool setTheme(const QString &name);
+    QString themeName() const;
+
+    const ThemeColours &colours() const;
+    /** The colour, and its soft background, of a message level: "warning", "error", or any other
+     *  for plain information. */
+    QColor levelColour(const QString &level) const;
+    QColor levelBackground(const QString &level) const;
+    QPalette palette() const;
+    static QFont font(TextSize size, bool bold = false);
+
+    /**
+     * The host's global style sheet, for pages. Widgets choose a variant by dynamic properties: a
+     * QPushButton "role" = "primary" or "danger"; a QLabel "role" = "heading", "title", "caption",
+     * "ok", "warning" or "error"; a QFrame "role" = "card".
+     */
+    QString styleSheet() const;
+    /** Grows with each change of theme. */
+    int revision() const;
+
+    /** Gives the application its style, font and palette, now and with each later theme. Sets no
+     *  style sheet: a page that wants its own looks must not inherit one. */
+    void applyToApplication();
+
+Q_SIGNALS:
+    void themeChanged();
+
+private:
+    Theme m_theme = Theme::Light;
+    ThemeColours m_colours;
+    QString m_styleSheet;
+    int m_revision = 1;
+    bool m_applied = false;
+};
+
+} // namespace brisa

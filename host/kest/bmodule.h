@@ -17,7 +17,8 @@ namespace kest
 
 /**
  * A module of the host: the unit that the module framework creates, drives and destroys. The
- * defaults of all hooks do nothing. GUI thread.
+ * defaults of all hooks do nothing. Whatever a module put into the UI goes when it is destroyed:
+ * the containers watch QObject::destroyed, which comes before its children are deleted. GUI thread.
  */
 class HOST_EXPORT BModule : public QObject
 {
@@ -43,9 +44,12 @@ public:
 
     /** The host data node that the module is bound to; null before bindMobj(). */
     ostrel::ModuleObject *mobj() const;
+    /** The key of that node; empty before bindMobj(). */
+    QString mobjKey() const;
 
 protected:
-    /** Binds the module to the data node of that key, under which bModule() finds it. */
+    /** Binds the module to the data node of that key, under which bModule() finds it. Of several
+     *  modules with one key the last bound is found. An earlier binding of this module ends. */
     void bindMobj(const QString &key);
 
 private:

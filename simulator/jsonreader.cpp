@@ -1,0 +1,123 @@
+#include "jsonreader.h"
+
+#include <QJsonArray>
+#include <cmath>
+
+namespace simulator
+{
+
+namespace
+{
+QString typeOf(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        return QStringLiteral("a truth value");
+    case QJsonValue::Double:
+        return QStringLiteral("a number");
+    case QJsonValue::String:
+        return QStringLiteral("a text");
+    case QJsonValue::Array:
+        return QStringLiteral("an array");
+    case QJsonValue::Object:
+        return QStringLiteral("an object");
+    default:
+        return QStringLiteral("null");
+    }
+}
+
+QString expected(const QString &what, const QJsonValue &found)
+{
+    return QStringLiteral("expected %1, found %2").arg(what, typeOf(found));
+}
+} // namespace
+
+void JsonError::report(const QString &path, const QString &problem)
+{
+    if (isEmpty())
+        text = path.isEmpty() ? problem : path + QStringLiteral(": ") + problem;
+}
+
+JsonReader::JsonReader(const QJsonValue &value, const QString &path, JsonError &error)
+    : m_object(value.toObject())
+    , m_path(path)
+    , m_error(error)
+{
+    if (!value.isObject())
+        m_error.report(path, expected(QStringLiteral("an object"), value));
+}
+
+void JsonReader::allowOnly(const QStringList &names)
+{
+    for (const QString &name : m_object.keys()) {
+        if (!names.contains(name))
+            report(
+                name,
+                QStringLiteral("unknown member (known: %1)").arg(names.join(QStringLiteral(", "))));
+    }
+}
+
+QString JsonReader::text(const QString &name, const QString &byDefault)
+{
+    if (!has(name))
+        return byDefault;
+    if (!value(name).isString())
+        report(name, expected(QStringLiteral("a text"), value(name)));
+    return value(name).toString(byDefault);
+}
+
+int JsonReader::integer(const QString &name, int byDefault, int min, int max)
+{
+    if (!has(name))
+        return byDefault;
+    const QJsonValue found = value(name);
+    const double number = found.toDouble();
+    if (found.isDouble() && number >= min && number <= max && std::trunc(number) == number)
+        return static_cast<int>(number);
+    const QString range = QStringLiteral("an integer from %1 to %2").arg(min).arg(max);
+    if (found.isDouble())
+        report(name, QStringLiteral("expected %1, found %2").arg(range).arg(number));
+    else
+        report(name, expected(range, found));
+    return byDefault;
+}
+
+int JsonReader::choice(const QString &name, const QStringList &choices, int byDefault)
+{
+    if (!has(name))
+        return byDefault;
+    const QString found = text(name, QString());
+    const int index = choices.indexOf(found);
+    if (index >= 0)
+        return index;
+    report(name,
+           QStringLiteral("expected one of %1, found '%2'")
+               .arg(choices.join(QStringLiteral(", ")), found));
+    return byDefault;
+}
+
+QJsonObject JsonReader::object(const QString &name)
+{
+    if (has(name) && !value(name).isObject())
+        report(name, expected(QStringLiteral("an object"), value(name)));
+    return value(name).toObject();
+}
+
+QJsonArray JsonReader::array(const QString &name)
+{
+    if (has(name) && !value(name).isArray())
+        report(name, expected(QStringLiteral("an array"), value(name)));
+    return value(name).toArray();
+}
+
+void JsonReader::report(const QString &name, const QString &problem)
+{
+    m_error.report(pathOf(name), problem);
+}
+
+QString JsonReader::pathOf(const QString &name) const
+{
+    return m_path.isEmpty() ? name : m_path + QLatin1Char('.') + name;
+}
+
+} // namespace simulator

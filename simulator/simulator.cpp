@@ -1,0 +1,187 @@
+#include "simulator.h"
+
+#include "control.h"
+#include "endpoint.h"
+#include "hubcommands.h"
+#include "programcommands.h"
+#include "statecommands.h"
+#include "timeline.h"
+
+#include <QJsonArray>
+
+namespace simulator
+{
+
+class Simulator::Private
+{
+public:
+    explicit Private(const Scenario &scenario)
+        : robot(scenario.robot)
+        , hub(scenario.hub)
+        , answers(scenario.answers)
+        , timeline(scenario.timeline)
+    {
+        for (const Fault &fault : scenario.faults)
+            faults.add(fault);
+    }
+
+    RobotState robot;
+    HubData hub;
+    Faults faults;
+    Answers answers;
+    RequestLog requests;
+    Timeline timeline;
+
+    CommandRegistry controllerRegistry {answers.controller};
+    StateCommands stateCommands {controllerRegistry, robot};
+    ProgramCommands programCommands {controllerRegistry, robot};
+    CommandRegistry hubRegistry;
+    HubCommands hubCommands {hubRegistry, hub, answers};
+
+    Endpoint controllerEnd {QStringLiteral("controller"), {controllerRegistry, faults, requests}};
+    Endpoint hubEnd {QStringLiteral("hub"), {hubRegistry, faults, requests}};
+    bool started = false;
+};
+
+Simulator::Simulator(const Scenario &scenario, QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>(scenario))
+{
+    connect(&d->robot, &RobotState::changed, this,
+            [this] { notify(QStringLiteral("system.state"), d->robot.toJson()); });
+    connect(&d->hub, &HubData::changed, this, [this](const QString &key, const QJsonValue &value) {
+        d->hubEnd.notify(QStringLiteral("hub.changed"),
+                         {{QStringLiteral("key"), key}, {QStringLiteral("value"), value}});
+    });
+    connect(&d->faults, &Faults::conditionsChanged, this, &Simulator::applyConditions);
+    connect(&d->timeline, &Timeline::due, this, [this](const QString &line) {
+        const Reply reply = control(line);
+        if (!reply.isDone())
+            emit problem(QStringLiteral("timeline: %1: %2").arg(line, reply.reason));
+    });
+    for (Endpoint *endpoint : {&d->controllerEnd, &d->hubEnd}) {
+        connect(endpoint, &Endpoint::received, this, &Simulator::received);
+        connect(endpoint, &Endpoint::problem, this, &Simulator::problem);
+    }
+}
+
+Simulator::~Simulator()
+{
+    stop();
+}
+
+bool Simulator::start(quint16 controllerPort, quint16 hubPort, QString *error)
+{
+    if (d->started)
+        return true;
+    d->started = d->controllerEnd.open(controllerPort, error) && d->hubEnd.open(hubPort, error);
+    if (!d->started) {
+        stop();
+        return false;
+    }
+    applyConditions();
+    d->timeline.start();
+    return true;
+}
+
+void Simulator::stop()
+{
+    d->started = false;
+    d->controllerEnd.close();
+    d->hubEnd.close();
+}
+
+void Simulator::applyConditions()
+{
+    const bool silent = d->faults.isActive(FaultKind::Silent);
+    const auto apply = [&](Endpoint &endpoint, FaultKind down) {
+        endpoint.setSilent(silent);
+        if (!d->started || d->faults.isActive(down)) {
+            endpoint.close();
+            return;
+        }
+        QString error;
+        if (!endpoint.open(0, &error))
+            emit problem(error);
+    };
+    apply(d->controllerEnd, FaultKind::ControllerDown);
+    apply(d->hubEnd, FaultKind::HubDown);
+}
+
+quint16 Simulator::controllerPort() const
+{
+    return d->controllerEnd.port();
+}
+
+quint16 Simulator::hubPort() const
+{
+    return d->hubEnd.port();
+}
+
+RobotState &Simulator::robot()
+{
+    return d->robot;
+}
+
+HubData &Simulator::hub()
+{
+    return d->hub;
+}
+
+Faults &Simulator::faults()
+{
+    return d->faults;
+}
+
+Answers &Simulator::answers()
+{
+    return d->answers;
+}
+
+RequestLog &Simulator::requests()
+{
+    return d->requests;
+}
+
+void Simulator::notify(const QString &path, const QJsonValue &value)
+{
+    d->controllerEnd.notify(QStringLiteral("notify"),
+                            {{QStringLiteral("path"), path}, {QStringLiteral("value"), value}});
+}
+
+void Simulator::dropControllerClients()
+{
+    d->controllerEnd.dropClients();
+}
+
+void Simulator::dropHubClients()
+{
+    d->hubEnd.dropClients();
+}
+
+QJsonObject Simulator::state() const
+{
+    QJsonArray faults;
+    for (const Fault &fault : d->faults.active())
+        faults += QJsonObject {{QStringLiteral("fault"), Faults::nameOf(fault.kind)},
+                               {QStringLiteral("command"), fault.command},
+                               {QStringLiteral("times"), fault.times}};
+    const auto ofEnd = [](const Endpoint &endpoint) {
+        return QJsonObject {{QStringLiteral("port"), endpoint.port()},
+                            {QStringLiteral("up"), endpoint.isOpen()},
+                            {QStringLiteral("clients"), endpoint.clientCount()}};
+    };
+    return {{QStringLiteral("robot"), d->robot.toJson()},
+            {QStringLiteral("controller"), ofEnd(d->controllerEnd)},
+            {QStringLiteral("hub"), ofEnd(d->hubEnd)},
+            {QStringLiteral("watches"), QJsonArray::fromStringList(d->hubEnd.watches())},
+            {QStringLiteral("faults"), faults}};
+}
+
+Reply Simulator::control(const QString &line)
+{
+    const ControlLine parsed = ControlLine::parse(line);
+    return parsed.run ? parsed.run(*this) : Reply::refused(parsed.error);
+}
+
+} // namespace simulator

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "answers.h"
+#include "faults.h"
+#include "hubdata.h"
+#include "reply.h"
+#include "requestlog.h"
+#include "robotstate.h"
+#include "scenario.h"
+
+#include <QObject>
+#include <memory>
+
+namespace simulator
+{
+
+/**
+ * A controller with its service hub, played on two WebSocket servers on loopback. State and faults
+ * outlive clients and servers: stop() and start() leave them as they are. All members belong to the
+ * thread on which the simulator was made; none blocks.
+ */
+class Simulator : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Simulator(const Scenario &scenario = {}, QObject *parent = nullptr);
+    ~Simulator() override;
+
+    /** Opens both servers; the first call also starts the scenario's timeline. Port 0: the one of
+     *  the former start, or else any free one. False with the reason in `error`; then neither
+     *  server is open. An endpoint that a fault keeps down has a port, but refuses connections. */
+    bool start(quint16 controllerPort, quint16 hubPort, QString *error);
+    /** Drops all clients and closes both servers, which keep their ports. */
+    void stop();
+    quint16 controllerPort() const;
+    quint16 hubPort() const;
+
+    RobotState &robot();
+    HubData &hub();
+    Faults &faults();
+    Answers &answers();
+    RequestLog &requests();
+
+    /** Sends a value on a notify path to all clients of the controller. */
+    void notify(const QString &path, const QJsonValue &value);
+    void dropControllerClients();
+    void dropHubClients();
+
+    /** The robot's state, the ports, how many clients there are, what they watch, the faults. */
+    QJsonObject state() const;
+
+    /** Carries out one line of the control language. */
+    Reply control(const QString &line);
+
+signals:
+    /** A text frame has arrived at the endpoint "controller" or "hub". */
+    void received(const QString &endpoint, const QString &text);
+    /** One line about something wrong: a client that was closed, a timeline step that failed. */
+    void problem(const QString &line);
+
+private:
+    void applyConditions();
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace simulator

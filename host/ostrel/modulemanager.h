@@ -13,10 +13,14 @@ class HOST_EXPORT ModuleManager
 {
 public:
     /**
-     * Writes value as JSON to path, old or new and never half: missing parents are made, file and
-     * directory are synced, and the file's modification time moves on by at least a whole second
-     * against the file it replaces. indented: one member a line. Returns false, with nothing
-     * changed, where the file can't be written. Blocks for the disk.
+     * Writes value as JSON text in UTF-8 to path, old or new and never half: missing parents are
+     * made, file and directory are synced, and the file's modification time moves on by at least a
+     * whole second against the file it replaces, also where the clock has run back. Only a plain
+     * file is replaced, no directory, symbolic link or device. indented: one member a line.
+     *
+     * Returns false, with an error line in the host's log, where value is undefined, nested deeper
+     * than 1024 levels or can't be written; the old file is still there then, unless only the last
+     * step failed, the sync of its directory. Blocks for the disk. GUI thread.
      */
     static bool writeToJson(const QString &path, const QJsonValue &value, bool indented);
 };

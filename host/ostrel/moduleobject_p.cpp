@@ -1,0 +1,292 @@
+#include "ostrel/moduleobject_p.h"
+
+#include "ostrel/jsonexchange_p.h"
+#include "ostrel/treeedit_p.h"
+
+#include <QMetaMethod>
+#include <algorithm>
+
+namespace ostrel
+{
+
+namespace
+{
+// Retired handles wait here for the event loop; where none runs any more, they go at exit.
+QObject *retiredHandles()
+{
+    static QObject owner;
+    return &owner;
+}
+} // namespace
+
+ModuleObjectPrivate::ModuleObjectPrivate(ModuleObject *object, ModuleObjectPrivate *above,
+                                         NameId ownName)
+    : q(object)
+    , parent(above)
+    , name(ownName)
+{
+}
+
+ModuleObjectPrivate::~ModuleObjectPrivate()
+{
+    forgetKeys();
+    deleteHandlesBelow();
+    if (node)
+        node->handle = nullptr;
+    else if (parent)
+        parent->dropPlaceholder(this);
+}
+
+void ModuleObjectPrivate::deleteHandlesBelow()
+{
+    const auto end = [](ModuleObjectPrivate *handle) {
+        handle->parent = nullptr;
+        delete handle->q;
+    };
+    const int count = node ? node->childCount() : 0;
+    for (int i = 0; i < count; ++i) {
+        if (ModuleObjectPrivate *handle = node->childAt(i)->handle)
+            end(handle);
+    }
+    for (ModuleObjectPrivate *handle : std::exchange(placeholders, {}))
+        end(handle);
+}
+
+void ModuleObjectPrivate::dropPlaceholder(ModuleObjectPrivate *handle)
+{
+    const auto place = std::find(placeholders.begin(), placeholders.end(), handle);
+    if (place != placeholders.end())
+        placeholders.erase(place);
+}
+
+ModuleObjectPrivate *ModuleObjectPrivate::below(QStringView step)
+{
+    Node *child = node ? node->descend(step) : nullptr;
+    return child ? handleOf(*child) : placeholder(step);
+}
+
+ModuleObjectPrivate *ModuleObjectPrivate::handleOf(Node &child)
+{
+    if (!child.handle) {
+        child.handle = (new ModuleObject(this, child.name()))->d.get();
+        child.handle->node = &child;
+    }
+    return child.handle;
+}
+
+ModuleObjectPrivate *ModuleObjectPrivate::placeholder(QStringView step)
+{
+    const Name wanted(step);
+    for (ModuleObjectPrivate *handle : placeholders) {
+        if (handle->name.id() == wanted.id())
+            return handle;
+    }
+    if (depth() >= maxDepth) {
+        qWarning("ModuleObject: a path of more than %d levels leads out of the tree", maxDepth);
+        ModuleObjectPrivate *outside = (new ModuleObject(nullptr, wanted.id()))->d.get();
+        outside->retire();
+        return outside;
+    }
+    placeholders.push_back((new ModuleObject(this, wanted.id()))->d.get());
+    return placeholders.back();
+}
+
+Node *ModuleObjectPrivate::ensureNode()
+{
+    if (node)
+        return node;
+    if (!parent) {
+        node = &own;
+        own.handle = this;
+        return node;
+    }
+    makeStep(*parent->ensureNode(), name.text());
+    return node;
+}
+
+int ModuleObjectPrivate::depth() const
+{
+    int levels = 0;
+    for (const ModuleObjectPrivate *above = parent; above; above = above->parent)
+        ++levels;
+    return levels;
+}
+
+bool ModuleObjectPrivate::isWatched() const
+{
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&ModuleObject::changed);
+    return q->isSignalConnected(signal);
+}
+
+void ModuleObjectPrivate::letGo(bool element)
+{
+    for (Node &child : *node) {
+        if (child.handle)
+            child.handle->letGo(element || node->isList());
+    }
+    node->handle = nullptr;
+    node = nullptr;
+    if (element)
+        retire();
+    else
+        parent->placeholders.push_back(this);
+}
+
+void ModuleObjectPrivate::retire()
+{
+    forgetKeys();
+    for (ModuleObjectPrivate *handle : std::exchange(placeholders, {}))
+        handle->retire();
+    parent = nullptr;
+    q->setParent(retiredHandles());
+    q->deleteLater();
+}
+
+void ModuleObjectPrivate::attachPlaceholders()
+{
+    for (size_t i = 0; i < placeholders.size();) {
+        ModuleObjectPrivate *handle = placeholders[i];
+        Node *found = node->descend(handle->name.text());
+        if (!found) {
+            ++i;
+            continue;
+        }
+        placeholders.erase(placeholders.begin() + std::ptrdiff_t(i));
+        handle->attachTo(*found);
+    }
+}
+
+// An element may have been awaited by name and by place: the first handle has it, and as two can't
+// stand for one node, the other goes.
+void ModuleObjectPrivate::attachTo(Node &found)
+{
+    if (found.handle) {
+        retire();
+        return;
+    }
+    found.handle = this;
+    node = &found;
+    attachPlaceholders();
+}
+
+void ModuleObjectPrivate::takeContent(Node &source)
+{
+    resetContent(*ensureNode(), Node::Kind::Empty);
+    node->takeContent(source);
+    attachPlaceholders();
+}
+
+void ModuleObjectPrivate::removeNode()
+{
+    if (parent) {
+        Node &above = *parent->node;
+        removeChildAt(above, int(node - above.begin()));
+        return;
+    }
+    resetContent(*node, Node::Kind::Empty);
+    node->handle = nullptr;
+    node = nullptr;
+}
+
+ModuleObjectPrivate *ModuleObjectPrivate::moveBelow(ModuleObjectPrivate *above)
+{
+    ensureNode();
+    Node *place = appendChild(*above->node, name.id());
+    if (ModuleObjectPrivate *waiting = place->handle) {
+        waiting->takeContentOf(*this);
+        return waiting;
+    }
+    place->takeContent(own);
+    own.handle = nullptr;
+    place->handle = this;
+    node = place;
+    parent = above;
+    q->setParent(nullptr);
+    return this;
+}
+
+void ModuleObjectPrivate::takeContentOf(ModuleObjectPrivate &other)
+{
+    Node content;
+    content.copyContent(other.own);
+    other.letGo(true);
+    takeContent(content);
+}
+
+ModuleObject &ModuleObjectPrivate::store()
+{
+    static ModuleObject *const root = [] {
+        auto *object = new ModuleObject;
+        object->d->cache = std::make_unique<KeyCache>();
+        return object;
+    }();
+    return *root;
+}
+
+ModuleObject *ModuleObjectPrivate::cached(const QString &key) const
+{
+    if (!cache)
+        return nullptr;
+    const auto known = cache->find(key);
+    return known == cache->end() ? nullptr : known->second;
+}
+
+void ModuleObjectPrivate::remember(const QString &key, ModuleObjectPrivate *handle)
+{
+    if (!cache)
+        return;
+    cache->emplace(key, handle->q);
+    handle->isCached = true;
+}
+
+void ModuleObjectPrivate::forgetKeys()
+{
+    if (!isCached)
+        return;
+    isCached = false;
+    ModuleObjectPrivate *root = this;
+    while (root->parent)
+        root = root->parent;
+    if (!root->cache)
+        return;
+    for (auto entry = root->cache->begin(); entry != root->cache->end();)
+        entry = entry->second == q ? root->cache->erase(entry) : std::next(entry);
+}
+
+ChangeReport::ChangeReport(ModuleObjectPrivate *from, bool notify)
+{
+    if (!notify)
+        return;
+    m_first = from->q;
+    remember(from);
+}
+
+void ChangeReport::remember(ModuleObjectPrivate *handle)
+{
+    const int count = handle->node ? handle->node->childCount() : 0;
+    for (int i = 0; i < count; ++i) {
+        if (ModuleObjectPrivate *below = handle->node->childAt(i)->handle)
+            remember(below);
+    }
+    for (ModuleObjectPrivate *below : handle->placeholders)
+        remember(below);
+    if (handle->isWatched())
+        m_watched.push_back({handle->q, handle->q->value(), handle->q->isNull(), {}});
+}
+
+void ChangeReport::emitChanges(QObject *origin)
+{
+    for (Watched &watched : m_watched)
+        watched.after = watched.object->value();
+    for (const Watched &watched : m_watched) {
+        ModuleObject *object = watched.object;
+        if (!object)
+            continue;
+        const bool differs
+            = watched.before != watched.after || watched.wasNull != watched.object->isNull();
+        if (differs || object == m_first)
+            Q_EMIT object->changed(watched.after, watched.before, origin);
+    }
+}
+
+} // namespace ostrel

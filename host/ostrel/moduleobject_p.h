@@ -1,0 +1,106 @@
+#pragma once
+
+#include "ostrel/moduleobject.h"
+#include "ostrel/node_p.h"
+
+#include <QPointer>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace ostrel
+{
+
+struct KeyHash {
+    size_t operator()(const QString &key) const { return hashText(key); }
+};
+
+/** Handles of the global store by whole key, so that the usual lookup is one probe. */
+using KeyCache = std::unordered_map<QString, ModuleObject *, KeyHash>;
+
+/**
+ * What a handle knows. A handle stands for a place of a tree: attached to the node there, or, as a
+ * placeholder, kept by the handle above until such a node comes.
+ */
+class ModuleObjectPrivate
+{
+public:
+    ModuleObjectPrivate(ModuleObject *object, ModuleObjectPrivate *above, NameId ownName);
+    ~ModuleObjectPrivate();
+    Q_DISABLE_COPY(ModuleObjectPrivate)
+
+    /** The root of the global store; never destroyed. */
+    static ModuleObject &store();
+
+    /** The handle one step below, made where it is missing. */
+    ModuleObjectPrivate *below(QStringView step);
+    ModuleObjectPrivate *handleOf(Node &child);
+    /** The node of this handle, made where it is a placeholder. */
+    Node *ensureNode();
+    int depth() const;
+    bool isListElement() const { return parent && parent->node && parent->node->isList(); }
+    bool isWatched() const;
+
+    /** The node goes, and all below it: become a placeholder, or retire as a list element. */
+    void letGo(bool element);
+    /** Gives placeholders below their nodes, where such have come. */
+    void attachPlaceholders();
+    /** Takes over the content of a node without handles. */
+    void takeContent(Node &source);
+    /** Removes the node that this handle is attached to. */
+    void removeNode();
+    /**
+     * Appends this root, with its content and its handles, to the list at above. Returns the
+     * element's handle: a placeholder that had waited for the place, and then this one retires.
+     */
+    ModuleObjectPrivate *moveBelow(ModuleObjectPrivate *above);
+
+    ModuleObject *cached(const QString &key) const;
+    void remember(const QString &key, ModuleObjectPrivate *handle);
+
+    ModuleObject *const q;
+    ModuleObjectPrivate *parent;
+    Name name;
+    Node *node = nullptr; // null: a placeholder
+    Node own; // the root node of a tree
+    std::vector<ModuleObjectPrivate *> placeholders;
+    std::unique_ptr<KeyCache> cache; // of the global store's root
+    bool isCached = false;
+
+private:
+    void attachTo(Node &found);
+    void takeContentOf(ModuleObjectPrivate &other);
+    ModuleObjectPrivate *placeholder(QStringView step);
+    void dropPlaceholder(ModuleObjectPrivate *handle);
+    void retire();
+    void forgetKeys();
+    void deleteHandlesBelow();
+};
+
+/**
+ * Remembers what the watched nodes from a handle on held, so that after a change of any shape those
+ * whose content differs can tell. Nothing is emitted before the whole change has been made.
+ */
+class ChangeReport
+{
+public:
+    /** Without notify, it remembers and emits nothing. */
+    ChangeReport(ModuleObjectPrivate *from, bool notify);
+    /** Emits changed(): the innermost nodes first, the node itself last and in any case. */
+    void emitChanges(QObject *origin);
+
+private:
+    struct Watched {
+        QPointer<ModuleObject> object;
+        QVariant before;
+        bool wasNull;
+        QVariant after;
+    };
+
+    void remember(ModuleObjectPrivate *handle);
+
+    QPointer<ModuleObject> m_first;
+    std::vector<Watched> m_watched;
+};
+
+} // namespace ostrel

@@ -1,0 +1,142 @@
+#include "kivra/navigationbar.h"
+
+#include "brisa/elidedlabel.h"
+#include "brisa/thememanager.h"
+#include "kest/centerwidget.h"
+#include "kivra/navigationitem_p.h"
+#include "kivra/navigationtree_p.h"
+
+#include <QPainter>
+#include <QScrollArea>
+#include <QScroller>
+#include <QVBoxLayout>
+
+namespace qo
+{
+namespace kivra
+{
+
+namespace metrics = brisa::metrics;
+
+namespace
+{
+
+constexpr int BarWidth = 25 * metrics::Grid;
+
+QScrollArea *makeScrollArea(QWidget *content, QWidget *parent)
+{
+    auto *const scroll = new QScrollArea(parent);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(content);
+    scroll->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    scroll->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
+    QScroller::grabGesture(scroll->viewport(), QScroller::TouchGesture);
+    return scroll;
+}
+
+} // namespace
+
+NavigationBar::NavigationBar(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *const content = new QWidget(this);
+    m_column = new QVBoxLayout(content);
+    m_column->setContentsMargins(metrics::Grid, metrics::Grid, metrics::Grid, metrics::Grid);
+    m_column->setSpacing(metrics::Grid / 2);
+    m_column->setAlignment(Qt::AlignTop);
+    m_scroll = makeScrollArea(content, this);
+    auto *const frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 1, 0);
+    frame->addWidget(m_scroll);
+    setFixedWidth(BarWidth);
+    connect(&NavigationTree::instance(), &NavigationTree::changed, this, &NavigationBar::rebuild);
+    connect(brisa::ThemeManager::instance(), &brisa::ThemeManager::themeChanged, this,
+            &NavigationBar::rebuild);
+    rebuild();
+}
+
+NavigationBar::~NavigationBar() = default;
+
+void NavigationBar::paintEvent(QPaintEvent *)
+{
+    const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
+    QPainter painter(this);
+    painter.fillRect(rect(), colours.surface);
+    painter.fillRect(width() - 1, 0, 1, height(), colours.border);
+}
+
+void NavigationBar::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    followCentre();
+}
+
+void NavigationBar::followCentre()
+{
+    connect(instantiatedCenterWidget(), &kest::CenterWidget::currentKeyChanged, this,
+            &NavigationBar::markCurrent, Qt::UniqueConnection);
+    markCurrent();
+}
+
+void NavigationBar::rebuild()
+{
+    clear();
+    const auto groups = NavigationTree::instance().groups();
+    for (const NavigationGroup &group : groups) {
+        if (group.entries.isEmpty())
+            continue;
+        if (!group.title.isEmpty())
+            addTitle(group.title);
+        for (const NavigationEntry &entry : group.entries) {
+            auto *const item = new NavigationItem(entry, m_scroll->widget());
+            connect(item, &NavigationItem::clicked, this, [this, nav = entry.nav] { open(nav); });
+            m_column->addWidget(item);
+        }
+    }
+    m_scroll->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
+    markCurrent();
+    update();
+}
+
+// Items may be in their own click handler.
+void NavigationBar::clear()
+{
+    while (QLayoutItem *const item = m_column->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+}
+
+void NavigationBar::addTitle(const QString &title)
+{
+    auto *const label = new brisa::ElidedLabel(title, m_scroll->widget());
+    label->setFont(brisa::ThemeManager::font(brisa::TextSize::Caption, true));
+    label->setColour(brisa::ThemeManager::instance()->colours().mutedText);
+    label->setContentsMargins(metrics::Margin, 0, 0, 0);
+    label->setFixedHeight(4 * metrics::Grid);
+    m_column->addWidget(label);
+}
+
+void NavigationBar::open(const QString &nav)
+{
+    followCentre();
+    instantiatedCenterWidget()->switchTo(this, nav);
+    markCurrent();
+}
+
+void NavigationBar::markCurrent()
+{
+    const QString current = instantiatedCenterWidget()->currentKey();
+    for (int i = 0; i < m_column->count(); ++i) {
+        if (auto *const item = qobject_cast<NavigationItem *>(m_column->itemAt(i)->widget()))
+            item->setChecked(!current.isEmpty() && item->nav() == current);
+    }
+}
+
+} // namespace kivra
+} // namespace qo

@@ -1,0 +1,245 @@
+#include "offscreen.h"
+
+#include <brisa/managerhelper.h>
+#include <kest/bmodule.h>
+#include <kest/centerwidget.h>
+#include <kivra/navigation.h>
+#include <kivra/physicalbuttonbar.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QToolButton>
+#include <QtTest>
+#include <stdexcept>
+
+using qo::kivra::PhysicalButtonBar;
+using qo::kivra::registerPhysicalButtons;
+
+namespace
+{
+
+QStringList g_events;
+
+brisa::PhysicalButton key(const QString &label)
+{
+    return {label, QIcon(), QIcon(),
+            [label](bool down) { g_events.append(label + (down ? "+" : "-")); }};
+}
+
+QAbstractButton *find(const PhysicalButtonBar &bar, const QString &label)
+{
+    for (auto *button : bar.findChildren<QAbstractButton *>()) {
+        if (button->isVisibleTo(&bar) && button->text() == label
+            && button->objectName() != "keyPageSelector")
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestPhysicalButtons : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { ignoreOffscreenNoise(); }
+
+    void init()
+    {
+        g_events.clear();
+        m_centre = new kest::CenterWidget;
+        m_bar = new PhysicalButtonBar(Qt::Horizontal);
+        m_bar->resize(800, 150);
+        QVERIFY(!m_bar->isVisible());
+    }
+    void cleanup()
+    {
+        delete m_bar;
+        delete m_centre;
+    }
+
+    void pressAndReleaseReachTheCallback_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::newRow("first row") << "a";
+        QTest::newRow("first row, second key") << "b";
+        QTest::newRow("second row") << "c";
+    }
+    void pressAndReleaseReachTheCallback()
+    {
+        QFETCH(QString, label);
+        kest::BModule module;
+        registerPhysicalButtons(&module, "main", {key("a"), key("b")}, {key("c")}, {});
+        QTRY_VERIFY(find(*m_bar, label));
+        QVERIFY(m_bar->isVisible());
+        QAbstractButton *button = find(*m_bar, label);
+        QVERIFY(button->height() >= 53 && button->width() >= 53);
+        QTest::mousePress(button, Qt::LeftButton);
+        QCOMPARE(g_events, QStringList {label + "+"});
+        QTest::mouseRelease(button, Qt::LeftButton);
+        QCOMPARE(g_events, (QStringList {label + "+", label + "-"}));
+    }
+
+    void heldKeyIsReleasedOnce_data()
+    {
+        QTest::addColumn<QString>("what");
+        for (const char *what : {"disabled", "replaced", "other page", "bar hidden", "bar gone"})
+            QTest::newRow(what) << what;
+    }
+    void heldKeyIsReleasedOnce()
+    {
+        QFETCH(QString, what);
+        kest::BModule module;
+        kest::BModule other;
+        m_centre->addPage(&module, "module", new QLabel);
+        m_centre->addPage(&other, "other", new QLabel);
+        registerPhysicalButtons(&module, "main", {key("a")}, {}, {});
+        registerPhysicalButtons(&other, "main", {key("x")}, {}, {});
+        QTRY_VERIFY(find(*m_bar, "a"));
+        QTest::mousePress(find(*m_bar, "a"), Qt::LeftButton);
+        if (what == "disabled")
+            qo::kivra::enableRegisterPhysicalButtons(&module, "main", false);
+        else if (what == "replaced")
+            registerPhysicalButtons(&module, "main", {key("b")}, {}, {});
+        else if (what == "other page")
+            m_centre->switchTo(nullptr, "other");
+        else if (what == "bar hidden")
+            m_bar->hide();
+        else
+            delete std::exchange(m_bar, nullptr);
+        QTRY_COMPARE(g_events, (QStringList {"a+", "a-"}));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(g_events, (QStringList {"a+", "a-"}));
+    }
+
+    void keysGoWithTheirModuleEvenWhileHeld()
+    {
+        auto module = std::make_unique<kest::BModule>();
+        registerPhysicalButtons(module.get(), "main", {key("a")}, {}, {});
+        QTRY_VERIFY(find(*m_bar, "a"));
+        QAbstractButton *button = find(*m_bar, "a");
+        QTest::mousePress(button, Qt::LeftButton);
+        module.reset();
+        QTest::mouseRelease(button, Qt::LeftButton);
+        QCOMPARE(g_events, QStringList {"a+"});
+        QTRY_VERIFY(!m_bar->isVisible());
+        QCOMPARE(m_bar->currentPage(), QString());
+    }
+
+    void callbackMayReplaceItsPageOrDestroyItsModule_data()
+    {
+        QTest::addColumn<bool>("destroy");
+        QTest::newRow("replace") << false;
+        QTest::newRow("destroy") << true;
+    }
+    void callbackMayReplaceItsPageOrDestroyItsModule()
+    {
+        QFETCH(bool, destroy);
+        auto module = std::make_unique<kest::BModule>();
+        const auto act = [&](bool down) {
+            g_events.append(down ? "act+" : "act-");
+            if (!down)
+                return;
+            if (destroy)
+                module.reset();
+            else
+                registerPhysicalButtons(module.get(), "main", {key("new")}, {}, {});
+        };
+        registerPhysicalButtons(module.get(), "main", {{"act", QIcon(), QIcon(), act}}, {}, {});
+        QTRY_VERIFY(find(*m_bar, "act"));
+        QTest::mouseClick(find(*m_bar, "act"), Qt::LeftButton);
+        QTRY_VERIFY(destroy ? !m_bar->isVisible() : find(*m_bar, "new") != nullptr);
+        const QStringList replaced {"act+", "act-"};
+        QCOMPARE(g_events, destroy ? QStringList {"act+"} : replaced);
+    }
+
+    void throwingCallbackIsReported()
+    {
+        kest::BModule module;
+        QSignalSpy logs(brisa::ManagerHelper::instance(), &brisa::ManagerHelper::logThrown);
+        const auto fail = [](bool down) {
+            if (down)
+                throw std::runtime_error("jammed");
+            throw 1;
+        };
+        registerPhysicalButtons(&module, "main", {{"F1", QIcon(), QIcon(), fail}}, {}, {});
+        QTRY_VERIFY(find(*m_bar, "F1"));
+        QTest::mouseClick(find(*m_bar, "F1"), Qt::LeftButton);
+        QCOMPARE(logs.size(), 2);
+        QCOMPARE(logs.at(0).at(1).toString(), QString("error"));
+        QCOMPARE(logs.at(0).at(2).toString(), QString("The key \"F1\" failed: jammed"));
+        QCOMPARE(logs.at(1).at(2).toString(),
+                 QString("The key \"F1\" failed: an unknown exception"));
+    }
+
+    void disabledPageTakesNoPress()
+    {
+        kest::BModule module;
+        registerPhysicalButtons(&module, "main", {key("a")}, {}, {});
+        qo::kivra::enableRegisterPhysicalButtons(&module, "main", false);
+        qo::kivra::enableRegisterPhysicalButtons(&module, "unknown", true);
+        QTRY_VERIFY(find(*m_bar, "a"));
+        QTest::mouseClick(find(*m_bar, "a"), Qt::LeftButton);
+        QCOMPARE(g_events, QStringList());
+        qo::kivra::enableRegisterPhysicalButtons(&module, "main", true);
+        QTRY_VERIFY(find(*m_bar, "a") && find(*m_bar, "a")->isEnabled());
+        QTest::mouseClick(find(*m_bar, "a"), Qt::LeftButton);
+        QCOMPARE(g_events, (QStringList {"a+", "a-"}));
+    }
+
+    void pageOfKeysFollowsTheCentre_data()
+    {
+        QTest::addColumn<QString>("centreKey");
+        QTest::addColumn<QString>("keys");
+        QTest::newRow("the module's page") << "zeplet.b"
+                                           << "b keys";
+        QTest::newRow("named like the page") << "named"
+                                             << "named";
+        QTest::newRow("named as extra") << "elsewhere"
+                                        << "b extra";
+        QTest::newRow("without keys: nothing changes") << "plain"
+                                                       << "a keys";
+    }
+    void pageOfKeysFollowsTheCentre()
+    {
+        QFETCH(QString, centreKey);
+        kest::BModule a;
+        kest::BModule b;
+        m_centre->addPage(&a, "zeplet.a", new QLabel);
+        m_centre->addPage(&b, "zeplet.b", new QLabel);
+        for (const char *page : {"named", "elsewhere", "plain"})
+            m_centre->addPage(nullptr, page, new QLabel);
+        registerPhysicalButtons(&a, "a keys", {}, {}, {});
+        registerPhysicalButtons(&a, "named", {}, {}, {});
+        registerPhysicalButtons(&b, "b keys", {}, {}, {});
+        registerPhysicalButtons(&b, "b extra", {}, {}, {"elsewhere"});
+        QTRY_COMPARE(m_bar->currentPage(), QString("a keys"));
+        m_centre->switchTo(nullptr, centreKey);
+        QTEST(m_bar->currentPage(), "keys");
+    }
+
+    void operatorChoosesAPage()
+    {
+        kest::BModule module;
+        registerPhysicalButtons(&module, "one", {key("a")}, {}, {});
+        registerPhysicalButtons(&module, "two", {key("b")}, {}, {});
+        auto *selector = m_bar->findChild<QToolButton *>("keyPageSelector");
+        QTRY_VERIFY(m_bar->isVisible() && selector->isEnabled());
+        QTest::mouseClick(selector, Qt::LeftButton);
+        auto *menu = m_bar->findChild<QMenu *>();
+        QVERIFY(menu);
+        menu->actions().at(1)->trigger();
+        QCOMPARE(m_bar->currentPage(), QString("two"));
+        QTRY_VERIFY(find(*m_bar, "b"));
+    }
+
+private:
+    kest::CenterWidget *m_centre = nullptr;
+    PhysicalButtonBar *m_bar = nullptr;
+};
+
+QTEST_MAIN(TestPhysicalButtons)
+#include "tst_physicalbuttons.moc"

@@ -4,6 +4,8 @@
 #include "brisa/thememanager.h"
 
 #include <QHBoxLayout>
+#include <QScrollArea>
+#include <QScroller>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -27,6 +29,19 @@ QWidget *makeTitleBar(const QString &title, QWidget *page)
     return bar;
 }
 
+// A content that needs more room than the centre area has can be scrolled instead of being cut.
+QScrollArea *makeScrollArea(QWidget *page)
+{
+    auto *const scroll = new QScrollArea(page);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(new QWidget);
+    scroll->widget()->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    QScroller::grabGesture(scroll->viewport(), QScroller::TouchGesture);
+    return scroll;
+}
+
 } // namespace
 
 BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName, QWidget *parent,
@@ -34,14 +49,15 @@ BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName,
     : QObject(module)
     , m_page(new QWidget(parent))
     , m_title(makeTitleBar(pluginName.isEmpty() ? name : pluginName, m_page))
-    , m_content(new QWidget(m_page))
 {
+    QScrollArea *const scroll = makeScrollArea(m_page);
+    m_content = scroll->widget();
     m_page->setObjectName(name + QLatin1Char('.') + pluginName);
     auto *const column = new QVBoxLayout(m_page);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_title);
-    column->addWidget(m_content, 1);
+    column->addWidget(scroll, 1);
 }
 
 BaseSettingPage::~BaseSettingPage()

@@ -12,8 +12,9 @@ namespace brisa
 {
 
 /**
- * The base of settings pages: a page widget with a title bar above a content widget. The object is
- * owned by its module; the page widget is owned by this object, wherever it is shown. GUI thread.
+ * The base of settings pages: a page widget with a title bar above a content widget, which can be
+ * scrolled where the page is too small for it. The object is owned by its module; the page widget
+ * is owned by this object, wherever it is shown. GUI thread.
  */
 class HOST_EXPORT BaseSettingPage : public QObject
 {

@@ -22,6 +22,14 @@ QPainterPath lines(std::initializer_list<QPointF> points, bool closed = false)
     return path;
 }
 
+QPainterPath join(std::initializer_list<QPainterPath> parts)
+{
+    QPainterPath path;
+    for (const QPainterPath &part : parts)
+        path.addPath(part);
+    return path;
+}
+
 QPainterPath circle(QPointF centre, qreal radius)
 {
     QPainterPath path;
@@ -49,17 +57,18 @@ QPainterPath markedPath(Glyph glyph)
 {
     switch (glyph) {
     case Glyph::Info:
-        return circle({12, 12}, 9) + lines({{12, 11}, {12, 16.5}}) + lines({{12, 7.4}, {12, 7.6}});
+        return join(
+            {circle({12, 12}, 9), lines({{12, 11}, {12, 16.5}}), lines({{12, 7.4}, {12, 7.6}})});
     case Glyph::Warning:
-        return lines({{12, 3.5}, {21.5, 20}, {2.5, 20}}, true) + lines({{12, 10}, {12, 14.5}})
-            + lines({{12, 17.2}, {12, 17.4}});
+        return join({lines({{12, 3.5}, {21.5, 20}, {2.5, 20}}, true), lines({{12, 10}, {12, 14.5}}),
+                     lines({{12, 17.2}, {12, 17.4}})});
     case Glyph::Error:
-        return circle({12, 12}, 9) + lines({{8.8, 8.8}, {15.2, 15.2}})
-            + lines({{15.2, 8.8}, {8.8, 15.2}});
+        return join({circle({12, 12}, 9), lines({{8.8, 8.8}, {15.2, 15.2}}),
+                     lines({{15.2, 8.8}, {8.8, 15.2}})});
     case Glyph::Ok:
-        return circle({12, 12}, 9) + lines({{8, 12.4}, {11, 15.2}, {16.2, 9.4}});
+        return join({circle({12, 12}, 9), lines({{8, 12.4}, {11, 15.2}, {16.2, 9.4}})});
     case Glyph::Close:
-        return lines({{6, 6}, {18, 18}}) + lines({{18, 6}, {6, 18}});
+        return join({lines({{6, 6}, {18, 18}}), lines({{18, 6}, {6, 18}})});
     case Glyph::Up:
         return lines({{5.5, 15}, {12, 8.5}, {18.5, 15}});
     case Glyph::Down:
@@ -69,11 +78,11 @@ QPainterPath markedPath(Glyph glyph)
     case Glyph::Right:
         return lines({{9, 5.5}, {15.5, 12}, {9, 18.5}});
     case Glyph::FullScreen:
-        return lines({{4, 9}, {4, 4}, {9, 4}}) + lines({{15, 4}, {20, 4}, {20, 9}})
-            + lines({{20, 15}, {20, 20}, {15, 20}}) + lines({{9, 20}, {4, 20}, {4, 15}});
+        return join({lines({{4, 9}, {4, 4}, {9, 4}}), lines({{15, 4}, {20, 4}, {20, 9}}),
+                     lines({{20, 15}, {20, 20}, {15, 20}}), lines({{9, 20}, {4, 20}, {4, 15}})});
     case Glyph::List:
-        return lines({{4, 6.5}, {20, 6.5}}) + lines({{4, 12}, {20, 12}})
-            + lines({{4, 17.5}, {20, 17.5}});
+        return join({lines({{4, 6.5}, {20, 6.5}}), lines({{4, 12}, {20, 12}}),
+                     lines({{4, 17.5}, {20, 17.5}})});
     default:
         return {};
     }
@@ -81,11 +90,10 @@ QPainterPath markedPath(Glyph glyph)
 
 QPainterPath gearPath()
 {
-    QPainterPath path = circle({12, 12}, 3) + circle({12, 12}, 6.5);
-    QTransform turn;
+    QPainterPath path = join({circle({12, 12}, 3), circle({12, 12}, 6.5)});
     for (int tooth = 0; tooth < 8; ++tooth) {
-        turn = QTransform().translate(12, 12).rotate(45 * tooth);
-        path += turn.map(lines({{0, -6.5}, {0, -9.5}}));
+        const QTransform turn = QTransform().translate(12, 12).rotate(45 * tooth);
+        path.addPath(turn.map(lines({{0, -6.5}, {0, -9.5}})));
     }
     return path;
 }
@@ -94,35 +102,35 @@ QPainterPath glyphPath(Glyph glyph)
 {
     switch (glyph) {
     case Glyph::Home:
-        return lines({{3, 11.5}, {12, 4}, {21, 11.5}})
-            + lines({{5.5, 10}, {5.5, 20}, {18.5, 20}, {18.5, 10}})
-            + lines({{10, 20}, {10, 14}, {14, 14}, {14, 20}});
+        return join({lines({{3, 11.5}, {12, 4}, {21, 11.5}}),
+                     lines({{5.5, 10}, {5.5, 20}, {18.5, 20}, {18.5, 10}}),
+                     lines({{10, 20}, {10, 14}, {14, 14}, {14, 20}})});
     case Glyph::Plugin:
-        return roundedBox({4, 4, 6.5, 6.5}, 1.5) + roundedBox({4, 13.5, 6.5, 6.5}, 1.5)
-            + roundedBox({13.5, 13.5, 6.5, 6.5}, 1.5) + lines({{16.75, 4}, {16.75, 10.5}})
-            + lines({{13.5, 7.25}, {20, 7.25}});
+        return join({roundedBox({4, 4, 6.5, 6.5}, 1.5), roundedBox({4, 13.5, 6.5, 6.5}, 1.5),
+                     roundedBox({13.5, 13.5, 6.5, 6.5}, 1.5), lines({{16.75, 4}, {16.75, 10.5}}),
+                     lines({{13.5, 7.25}, {20, 7.25}})});
     case Glyph::Settings:
         return gearPath();
     case Glyph::Power:
-        return arc({12, 13}, 8, 125, 290) + lines({{12, 3.5}, {12, 12}});
+        return join({arc({12, 13}, 8, 125, 290), lines({{12, 3.5}, {12, 12}})});
     case Glyph::Link:
-        return roundedBox({3, 8.5, 10, 7}, 3.5) + roundedBox({11, 8.5, 10, 7}, 3.5);
+        return join({roundedBox({3, 8.5, 10, 7}, 3.5), roundedBox({11, 8.5, 10, 7}, 3.5)});
     case Glyph::LinkLost:
-        return roundedBox({2, 8.5, 8, 7}, 3.5) + roundedBox({14, 8.5, 8, 7}, 3.5)
-            + lines({{15, 3.5}, {9, 20.5}});
+        return join({roundedBox({2, 8.5, 8, 7}, 3.5), roundedBox({14, 8.5, 8, 7}, 3.5),
+                     lines({{15, 3.5}, {9, 20.5}})});
     case Glyph::Play:
         return lines({{7, 4.5}, {19.5, 12}, {7, 19.5}}, true);
     case Glyph::Stop:
         return roundedBox({5.5, 5.5, 13, 13}, 1.5);
     case Glyph::Hand:
-        return circle({12, 6.5}, 3.5) + lines({{12, 10}, {12, 16}})
-            + roundedBox({5, 16, 14, 4.5}, 1.5);
+        return join({circle({12, 6.5}, 3.5), lines({{12, 10}, {12, 16}}),
+                     roundedBox({5, 16, 14, 4.5}, 1.5)});
     case Glyph::Cycle:
-        return arc({12, 12}, 8, 60, 280) + lines({{16.4, 1.6}, {16, 5.2}, {19.6, 5.6}});
+        return join({arc({12, 12}, 8, 60, 280), lines({{16.4, 1.6}, {16, 5.2}, {19.6, 5.6}})});
     case Glyph::User:
-        return circle({12, 8}, 4) + arc({12, 21}, 8, 0, 180);
+        return join({circle({12, 8}, 4), arc({12, 21}, 8, 0, 180)});
     case Glyph::Key:
-        return roundedBox({3.5, 5.5, 17, 13}, 2.5) + lines({{8, 14.5}, {16, 14.5}});
+        return join({roundedBox({3.5, 5.5, 17, 13}, 2.5), lines({{8, 14.5}, {16, 14.5}})});
     default:
         return markedPath(glyph);
     }

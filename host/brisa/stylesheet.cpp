@@ -11,6 +11,8 @@ namespace
 {
 
 // Colours are written as @name. A control's content of 38 px makes 56 with its padding and border.
+// Combo boxes, spin boxes and check boxes keep the style's own drawing: with a border of their own
+// they would need pictures for their arrows and marks.
 const char *const Rules = R"(
 QLabel { background: transparent; }
 QLabel[role="heading"] { font-size: 24px; font-weight: bold; }
@@ -39,16 +41,14 @@ QPushButton[role="primary"]:disabled, QPushButton[role="danger"]:disabled {
     background: @surface; border-color: @border; color: @disabledText;
 }
 
-QLineEdit, QComboBox, QAbstractSpinBox {
+QLineEdit {
     min-height: 38px; padding: 8px 12px; border: 1px solid @border; border-radius: 6px;
     background: @surface; color: @text; selection-background-color: @accent;
     selection-color: @onAccent;
 }
-QLineEdit:focus, QComboBox:focus, QAbstractSpinBox:focus { border-color: @accent; }
-QLineEdit:disabled, QComboBox:disabled, QAbstractSpinBox:disabled {
-    color: @disabledText; background: @raised;
-}
-QComboBox::drop-down { width: 40px; border: none; }
+QLineEdit:focus { border-color: @accent; }
+QLineEdit:disabled { color: @disabledText; background: @raised; }
+QComboBox, QAbstractSpinBox { min-height: 54px; }
 QComboBox QAbstractItemView { background: @surface; border: 1px solid @border; }
 QComboBox QAbstractItemView::item { min-height: 56px; padding-left: 12px; }
 QPlainTextEdit, QTextEdit, QAbstractItemView {
@@ -56,7 +56,9 @@ QPlainTextEdit, QTextEdit, QAbstractItemView {
     selection-background-color: @accentSoft; selection-color: @text;
     alternate-background-color: @raised;
 }
-QAbstractItemView::item { padding: 8px; }
+QAbstractItemView[role="plain"] { border: none; }
+QAbstractItemView::item { border: none; padding: 8px; }
+QAbstractItemView::item:selected { background: @accentSoft; color: @text; }
 QHeaderView::section {
     background: @raised; color: @mutedText; padding: 8px; border: none;
     border-bottom: 1px solid @border; font-size: 13px;
@@ -64,14 +66,7 @@ QHeaderView::section {
 QTableView { gridline-color: @border; }
 
 QCheckBox, QRadioButton { min-height: 56px; spacing: 12px; }
-QCheckBox::indicator, QRadioButton::indicator {
-    width: 22px; height: 22px; border: 2px solid @border; background: @surface;
-}
-QCheckBox::indicator { border-radius: 4px; }
-QRadioButton::indicator { border-radius: 13px; }
-QCheckBox::indicator:checked, QRadioButton::indicator:checked {
-    background: @accent; border-color: @accent;
-}
+QCheckBox::indicator, QRadioButton::indicator { width: 24px; height: 24px; }
 QGroupBox {
     border: 1px solid @border; border-radius: 6px; margin-top: 24px; padding: 16px;
     background: @surface;

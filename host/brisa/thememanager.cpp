@@ -30,7 +30,7 @@ ThemeColours lightColours()
     c.accent = 0x0b62c4;
     c.onAccent = 0xffffff;
     c.accentSoft = 0xdfebf9;
-    c.ok = 0x1a7f45;
+    c.ok = 0x17703d;
     c.okSoft = 0xdff3e6;
     c.warning = 0x9a5b00;
     c.warningSoft = 0xfdf0d8;

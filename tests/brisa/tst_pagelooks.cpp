@@ -1,0 +1,159 @@
+#include "offscreen.h"
+
+#include <brisa/basesettingpage.h>
+#include <brisa/elidedlabel.h>
+#include <brisa/glyph.h>
+#include <brisa/thememanager.h>
+
+#include <QApplication>
+#include <QLayout>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+#include <cmath>
+
+using namespace brisa;
+
+namespace
+{
+
+double luminance(const QColor &colour)
+{
+    const auto linear
+        = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+/** Contrast ratio of the Web Content Accessibility Guidelines 2: 1 to 21. */
+double contrast(const QColor &a, const QColor &b)
+{
+    const double la = luminance(a) + 0.05;
+    const double lb = luminance(b) + 0.05;
+    return la > lb ? la / lb : lb / la;
+}
+
+} // namespace
+
+class TestPageLooks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { ignoreOffscreenNoise(); }
+
+    void cleanup() { ThemeManager::instance()->setTheme(Theme::Light); }
+
+    void textIsReadable_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::newRow("light") << "light";
+        QTest::newRow("dark") << "dark";
+    }
+    void textIsReadable()
+    {
+        QFETCH(QString, theme);
+        QVERIFY(ThemeManager::instance()->setTheme(theme));
+        const ThemeColours &c = ThemeManager::instance()->colours();
+        for (const QColor &ground : {c.window, c.surface, c.raised}) {
+            for (const QColor &ink : {c.text, c.mutedText, c.accent, c.ok, c.warning, c.error})
+                QVERIFY2(contrast(ink, ground) >= 4.5, qPrintable(ink.name() + ground.name()));
+        }
+        QVERIFY(contrast(c.onAccent, c.accent) >= 4.5);
+        QVERIFY(contrast(c.onAccent, c.error) >= 4.5);
+        QVERIFY(contrast(c.accent, c.accentSoft) >= 4.5);
+        for (const QColor &ground : {c.okSoft, c.warningSoft, c.errorSoft, c.accentSoft})
+            QVERIFY(contrast(c.text, ground) >= 4.5);
+    }
+
+    void refusesAnUnknownTheme()
+    {
+        QSignalSpy changes(ThemeManager::instance(), &ThemeManager::themeChanged);
+        QVERIFY(!ThemeManager::instance()->setTheme("pink"));
+        QCOMPARE(ThemeManager::instance()->themeName(), QString("light"));
+        QVERIFY(ThemeManager::instance()->setTheme("light"));
+        QCOMPARE(changes.size(), 0);
+    }
+
+    void styleSheetNamesNoUnknownColour()
+    {
+        const QString sheet = ThemeManager::instance()->styleSheet();
+        QVERIFY(!sheet.contains('@'));
+        QVERIFY(!sheet.contains("#000000"));
+    }
+
+    void pageTakesTheGlobalSheetOnItsRenderOnly()
+    {
+        QWidget parent;
+        BaseSettingPage page("zeplet", "demo", &parent, nullptr);
+        QCOMPARE(page.wgt()->parentWidget(), &parent);
+        QCOMPARE(page.wgt()->styleSheet(), QString());
+        page.startRender();
+        QCOMPARE(page.wgt()->styleSheet(), ThemeManager::instance()->styleSheet());
+        const QString light = page.wgt()->styleSheet();
+        ThemeManager::instance()->setTheme(Theme::Dark);
+        QCOMPARE(page.wgt()->styleSheet(), light);
+        page.startRender();
+        QCOMPARE(page.wgt()->styleSheet(), ThemeManager::instance()->styleSheet());
+        QVERIFY(page.wgt()->styleSheet() != light);
+    }
+
+    void pageDefaults()
+    {
+        BaseSettingPage page("zeplet", "demo", nullptr, nullptr);
+        QCOMPARE(page.autoSaveInterval(), 10000);
+        QVERIFY(page.loadFromMobj());
+        QCOMPARE(page.contentWidget()->layout(), nullptr);
+    }
+
+    void pageOwnsItsWidgetUnlessItsParentDeletedIt()
+    {
+        QPointer<QWidget> widget;
+        {
+            QObject module;
+            widget = (new BaseSettingPage("zeplet", "demo", nullptr, &module))->wgt();
+        }
+        QVERIFY(!widget);
+        QObject module;
+        auto parent = std::make_unique<QWidget>();
+        BaseSettingPage page("zeplet", "demo", parent.get(), &module);
+        parent.reset();
+        page.startRender();
+        QCOMPARE(page.wgt(), nullptr);
+        QCOMPARE(page.contentWidget(), nullptr);
+    }
+
+    void buttonsAreLargeEnoughForAFinger()
+    {
+        ThemeManager::instance()->applyToApplication();
+        QPushButton button("OK");
+        button.setStyleSheet(ThemeManager::instance()->styleSheet());
+        button.ensurePolished();
+        QVERIFY(button.sizeHint().height() >= 53);
+    }
+
+    void longTextIsElidedWithAToolTip()
+    {
+        ElidedLabel label(QString("<b>long</b> ").repeated(40));
+        label.resize(200, 30);
+        label.show();
+        QVERIFY(label.isElided());
+        QVERIFY(label.toolTip().startsWith("&lt;b&gt;long"));
+        label.setText("short");
+        QVERIFY(!label.isElided());
+        QCOMPARE(label.toolTip(), QString());
+    }
+
+    void everyGlyphDrawsSomething()
+    {
+        for (int glyph = 0; glyph <= static_cast<int>(Glyph::Key); ++glyph) {
+            const QImage image = glyphPixmap(static_cast<Glyph>(glyph), Qt::black).toImage();
+            QImage blank(image.size(), image.format());
+            blank.fill(Qt::transparent);
+            QVERIFY2(image != blank, qPrintable(QString::number(glyph)));
+        }
+    }
+};
+
+QTEST_MAIN(TestPageLooks)
+#include "tst_pagelooks.moc"

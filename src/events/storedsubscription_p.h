@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QSharedPointer>
+#include <QVector>
+
+#include <atomic>
+#include <utility>
+
+#include "zepleteventsubscription.h"
+
+namespace zeplet
+{
+
+struct StoredSubscription;
+using StoredPointer = QSharedPointer<StoredSubscription>;
+
+/// A list whose members know their place in it, so that removing one takes constant time. It is
+/// shared implicitly: who copies it keeps the state of that moment, and a change then copies it
+/// once.
+template <typename Pointer>
+class PlacedList
+{
+public:
+    /// `place` is the member in which a record keeps its index in this list.
+    using Place = int StoredSubscription::*;
+
+    void append(Pointer record, Place place)
+    {
+        (*record).*place = m_records.size();
+        m_records.append(std::move(record));
+    }
+
+    /// The last record moves into the gap.
+    void remove(StoredSubscription &record, Place place)
+    {
+        const int last = m_records.size() - 1;
+        Pointer *records = m_records.data();
+        (*records[last]).*place = record.*place;
+        std::swap(records[record.*place], records[last]);
+        m_records.removeLast();
+        record.*place = -1;
+    }
+
+    const QVector<Pointer> &records() const { return m_records; }
+
+private:
+    QVector<Pointer> m_records;
+};
+
+/// What is known of one context object, shared by all subscriptions that were ever bound to it:
+/// also one that was removed during a dispatch, and is still due in it, must not run once the
+/// object is gone.
+struct SubscriptionContext {
+    std::atomic<bool> destroyed {false};
+    PlacedList<StoredSubscription *> subscriptions;
+};
+
+/// A subscription in the manager, with its places in all containers.
+struct StoredSubscription : ZepletEventSubscription {
+    explicit StoredSubscription(ZepletEventSubscription subscription);
+
+    /// Whether a dispatch may call it: valid, and the context object has not died.
+    bool isCallable() const { return !isOrphaned() && isValid(); }
+    bool isOrphaned() const
+    {
+        return context && context->destroyed.load(std::memory_order_acquire);
+    }
+
+    // The keys under which it is stored. The public members could be changed by who holds the
+    // record.
+    const QString storedId;
+    const ZepletEventType storedType;
+    const QString storedPlugin;
+
+    int typePlace = -1;
+    int pluginPlace = -1;
+    int contextPlace = -1;
+    /// Null without a context object.
+    QSharedPointer<SubscriptionContext> context;
+};
+
+} // namespace zeplet

@@ -1,0 +1,347 @@
+#include "zepleteventsystem.h"
+
+#include "zepleteventhandlerfiltered.h"
+#include "zepleteventhandleroneshot.h"
+#include "zepleteventhandlerwithcontext.h"
+#include "zepleteventsystem_p.h"
+
+#include <QtDebug>
+
+namespace zeplet
+{
+
+using Private = ZepletEventSystemPrivate;
+
+namespace
+{
+
+ZepletEventSystem *s_instance = nullptr;
+
+constexpr quint32 LastCustomType = 0xFFFF;
+
+} // namespace
+
+Private::ZepletEventSystemPrivate(ZepletEventSystem *system)
+    : q(system)
+{
+}
+
+Private::Snapshot Private::subscribers(ZepletEventType type) const
+{
+    QMutexLocker lock(&mutex);
+    return index().subscribers(type);
+}
+
+void Private::bind(QObject *object, StoredSubscription &record)
+{
+    auto &context = contexts[object];
+    if (!context)
+        context = QSharedPointer<SubscriptionContext>::create();
+    record.context = context;
+    context->subscriptions.append(&record, &StoredSubscription::contextPlace);
+}
+
+void Private::unbind(StoredSubscription &record)
+{
+    if (record.contextPlace >= 0)
+        record.context->subscriptions.remove(record, &StoredSubscription::contextPlace);
+}
+
+StoredPointer Private::doUnsubscribe(const QString &id)
+{
+    StoredPointer record = index().take(id);
+    if (!record)
+        return record;
+    unbind(*record);
+    emit q->subscriptionRemoved(record->storedId, record->storedType, record->storedPlugin);
+    return record;
+}
+
+int Private::doUnsubscribe(const Snapshot &records)
+{
+    int removed = 0;
+    for (const StoredPointer &record : records)
+        removed += doUnsubscribe(record->storedId) ? 1 : 0;
+    return removed;
+}
+
+Private::Snapshot Private::takeInvalid()
+{
+    QMutexLocker lock(&mutex);
+    const Snapshot records = index().takeInvalid();
+    for (const StoredPointer &record : records)
+        unbind(*record);
+    return records;
+}
+
+Private::Snapshot Private::takeContext(QObject *object)
+{
+    QMutexLocker lock(&mutex);
+    const auto context = contexts.take(object);
+    if (!context)
+        return {};
+
+    // Subscriptions that were removed before, and are still due in a running dispatch, see it as
+    // well.
+    context->destroyed.store(true, std::memory_order_release);
+    Snapshot taken;
+    while (!context->subscriptions.records().isEmpty()) {
+        StoredSubscription *record = context->subscriptions.records().last();
+        unbind(*record);
+        taken.append(index().take(record->storedId));
+    }
+    return taken;
+}
+
+Private::Snapshot Private::takeAll()
+{
+    QMutexLocker lock(&mutex);
+    const Snapshot records = index().takeAll();
+    for (const StoredPointer &record : records)
+        unbind(*record);
+    return records;
+}
+
+ZepletEventSystem *ZepletEventSystem::instance()
+{
+    static QMutex creation;
+    QMutexLocker lock(&creation);
+    if (!s_instance)
+        s_instance = new ZepletEventSystem;
+    return s_instance;
+}
+
+void ZepletEventSystem::destroyInstance()
+{
+    delete s_instance;
+    s_instance = nullptr;
+}
+
+ZepletEventSystem::ZepletEventSystem()
+    : d(new Private(this))
+{
+    // For queued connections and spies, which look the types up by the names in the signals.
+    qRegisterMetaType<ZepletEvent>();
+    qRegisterMetaType<ZepletEventType>();
+}
+
+// Captured objects may still use the bus while they go, so the subscriptions end before the state
+// does: one that is made by such an object goes in the next round.
+ZepletEventSystem::~ZepletEventSystem()
+{
+    while (!d->takeAll().isEmpty()) { }
+}
+
+QString ZepletEventSystem::subscribe(ZepletEventType type, Callback callback,
+                                     const QString &pluginName, QObject *context)
+{
+    const auto handler = QSharedPointer<ZepletEventHandlerWithContext>::create(
+        type, context, std::move(callback), pluginName + QLatin1String("_handler"));
+    return doSubscribe(type, handler, pluginName, context);
+}
+
+QString ZepletEventSystem::subscribeFiltered(ZepletEventType type, Filter filter, Callback callback,
+                                             const QString &pluginName, QObject *context)
+{
+    const auto handler = QSharedPointer<ZepletEventHandlerFiltered>::create(
+        type, std::move(filter), std::move(callback), pluginName + QLatin1String("_filter"));
+    return doSubscribe(type, handler, pluginName, context);
+}
+
+QString ZepletEventSystem::subscribeOnce(ZepletEventType type, Callback callback,
+                                         const QString &pluginName, QObject *context)
+{
+    const auto handler = QSharedPointer<ZepletEventHandlerOneShot>::create(
+        type, std::move(callback), pluginName + QLatin1String("_oneshot"));
+    return doSubscribe(type, handler, pluginName, context);
+}
+
+QString ZepletEventSystem::doSubscribe(ZepletEventType type,
+                                       QSharedPointer<ZepletEventHandler> handler,
+                                       const QString &pluginName, QObject *context)
+{
+    if (context)
+        watchContext(context);
+    const auto record = StoredPointer::create(
+        ZepletEventSubscription(QString(), pluginName, type, std::move(handler)));
+
+    QMutexLocker lock(&d->mutex);
+    d->index().insert(record);
+    if (context)
+        d->bind(context, *record);
+    emit subscriptionAdded(record->storedId, type, pluginName);
+    return record->storedId;
+}
+
+// Directly, so that no call starts after the object is gone, whatever thread it dies on. Before
+// locking, because connecting calls the object's connectNotify().
+void ZepletEventSystem::watchContext(QObject *context)
+{
+    connect(context, &QObject::destroyed, this, &ZepletEventSystem::onContextDestroyed,
+            static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::UniqueConnection));
+}
+
+void ZepletEventSystem::onContextDestroyed(QObject *object)
+{
+    d->takeContext(object);
+}
+
+void ZepletEventSystem::publish(const ZepletEvent &event)
+{
+    d->totalEventsPublished.fetch_add(1, std::memory_order_relaxed);
+    emit eventPublished(event);
+    dispatchEvent(event);
+}
+
+void ZepletEventSystem::publish(ZepletEventType type, const QVariant &data, const QString &source)
+{
+    publish(ZepletEvent(type, source, data));
+}
+
+void ZepletEventSystem::publishAsync(const ZepletEvent &event)
+{
+    QMetaObject::invokeMethod(
+        this, [this, event] { publish(event); }, Qt::QueuedConnection);
+}
+
+void ZepletEventSystem::publishAsync(ZepletEventType type, const QVariant &data,
+                                     const QString &source)
+{
+    publishAsync(ZepletEvent(type, source, data));
+}
+
+void ZepletEventSystem::dispatchEvent(const ZepletEvent &event)
+{
+    const auto snapshot = d->subscribers(event.type);
+    QStringList fired;
+    for (const StoredPointer &record : snapshot) {
+        if (!record->isCallable())
+            continue;
+        record->handleEvent(event);
+        d->totalEventsHandled.fetch_add(1, std::memory_order_relaxed);
+        if (record->isOneShot() && record->invokeCount > 0)
+            fired.append(record->storedId);
+    }
+    if (!fired.isEmpty())
+        removeFired(fired);
+}
+
+void ZepletEventSystem::removeFired(const QStringList &ids)
+{
+    Private::Snapshot dropped;
+    QMutexLocker lock(&d->mutex);
+    for (const QString &id : ids)
+        dropped.append(d->doUnsubscribe(id));
+}
+
+bool ZepletEventSystem::unsubscribe(const QString &subscriptionId)
+{
+    StoredPointer dropped;
+    QMutexLocker lock(&d->mutex);
+    dropped = d->doUnsubscribe(subscriptionId);
+    return !dropped.isNull();
+}
+
+int ZepletEventSystem::unsubscribeByPlugin(const QString &pluginName)
+{
+    Private::Snapshot records;
+    QMutexLocker lock(&d->mutex);
+    records = d->index().subscriptionsOf(pluginName);
+    return d->doUnsubscribe(records);
+}
+
+int ZepletEventSystem::unsubscribeByType(ZepletEventType type)
+{
+    Private::Snapshot records;
+    QMutexLocker lock(&d->mutex);
+    records = d->index().subscribers(type);
+    return d->doUnsubscribe(records);
+}
+
+int ZepletEventSystem::unsubscribeByTypeAndPlugin(const QString &pluginName, ZepletEventType type)
+{
+    Private::Snapshot records;
+    QMutexLocker lock(&d->mutex);
+    const auto ofType = d->index().subscribers(type);
+    for (const StoredPointer &record : ofType) {
+        if (record->storedPlugin == pluginName)
+            records.append(record);
+    }
+    return d->doUnsubscribe(records);
+}
+
+void ZepletEventSystem::cleanupInvalidSubscriptions()
+{
+    d->takeInvalid();
+}
+
+int ZepletEventSystem::subscriptionCount(ZepletEventType type) const
+{
+    return d->manager.subscriptionCountByType(type);
+}
+
+int ZepletEventSystem::subscriptionCount(const QString &pluginName) const
+{
+    return d->manager.subscriptionCountByPlugin(pluginName);
+}
+
+int ZepletEventSystem::totalSubscriptionCount() const
+{
+    return d->manager.validSubscriptionCount();
+}
+
+bool ZepletEventSystem::hasSubscription(const QString &subscriptionId) const
+{
+    return d->manager.hasSubscription(subscriptionId);
+}
+
+QList<ZepletEventType> ZepletEventSystem::registeredEventTypes() const
+{
+    return d->manager.registeredEventTypes();
+}
+
+QStringList ZepletEventSystem::totalSubscriptionIds(const QString &pluginName) const
+{
+    return d->manager.subscriptionIds(pluginName);
+}
+
+quint64 ZepletEventSystem::totalEventsPublished() const
+{
+    return d->totalEventsPublished.load(std::memory_order_relaxed);
+}
+
+quint64 ZepletEventSystem::totalEventsHandled() const
+{
+    return d->totalEventsHandled.load(std::memory_order_relaxed);
+}
+
+void ZepletEventSystem::resetStatistics()
+{
+    d->totalEventsPublished.store(0, std::memory_order_relaxed);
+    d->totalEventsHandled.store(0, std::memory_order_relaxed);
+}
+
+ZepletEventType ZepletEventSystem::registerCustomEventType(const QString &name)
+{
+    const qint32 candidate = d->nextCustomType.fetch_add(1);
+    if (static_cast<quint32>(candidate) > LastCustomType) {
+        qWarning("ZepletEventSystem: No more custom event types available!");
+        return None;
+    }
+    QMutexLocker lock(&d->mutex);
+    d->customTypeNames.insert(candidate, name);
+    return static_cast<ZepletEventType>(candidate);
+}
+
+QString ZepletEventSystem::customEventTypeName(ZepletEventType type) const
+{
+    QMutexLocker lock(&d->mutex);
+    return d->customTypeNames.value(type);
+}
+
+ZepletEventSystem *zepletEvent()
+{
+    return ZepletEventSystem::instance();
+}
+
+} // namespace zeplet

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QHash>
+#include <QMap>
+#include <QMutex>
+
+#include <atomic>
+
+#include "storedsubscription_p.h"
+#include "zepleteventsystem.h"
+#include "zepletsubscriptionmanager.h"
+#include "zepletsubscriptionmanager_p.h"
+
+namespace zeplet
+{
+
+/// The state of the event bus. What its operations remove they hand out, for the caller to release
+/// without any lock. The manager's mutex is taken after `mutex`, never before it.
+class ZepletEventSystemPrivate
+{
+public:
+    using Snapshot = ZepletSubscriptionManagerPrivate::Snapshot;
+
+    explicit ZepletEventSystemPrivate(ZepletEventSystem *system);
+
+    ZepletSubscriptionManagerPrivate &index() const { return *manager.d; }
+
+    /// The subscribers of that moment. Locks `mutex`.
+    Snapshot subscribers(ZepletEventType type) const;
+    /// Adds the record to those of its context object. Needs `mutex` locked.
+    void bind(QObject *object, StoredSubscription &record);
+    /// Removes one subscription and tells of it; null for an unknown id. Needs `mutex` locked.
+    StoredPointer doUnsubscribe(const QString &id);
+    /// Removes those of the subscriptions that are still there; returns how many. Needs `mutex`
+    /// locked.
+    int doUnsubscribe(const Snapshot &records);
+    /// Removes the invalid subscriptions. Locks `mutex`.
+    Snapshot takeInvalid();
+    /// Ends all subscriptions of a dying object. Locks `mutex`.
+    Snapshot takeContext(QObject *object);
+    /// Locks `mutex`.
+    Snapshot takeAll();
+
+    mutable QMutex mutex;
+    ZepletSubscriptionManager manager;
+    std::atomic<qint32> nextCustomType {UserEventStart};
+    QMap<int, QString> customTypeNames;
+    /// An entry stays until its object dies, also without subscriptions.
+    QHash<QObject *, QSharedPointer<SubscriptionContext>> contexts;
+    // On cache lines of their own: every publishing thread writes them.
+    alignas(64) std::atomic<quint64> totalEventsPublished {0};
+    alignas(64) std::atomic<quint64> totalEventsHandled {0};
+
+private:
+    static void unbind(StoredSubscription &record);
+
+    ZepletEventSystem *const q;
+};
+
+} // namespace zeplet

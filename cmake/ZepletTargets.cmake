@@ -13,7 +13,7 @@ function(zeplet_configure_target target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Werror
         -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion
-        -Wcast-align -Wduplicated-cond -Wlogical-op -Wnull-dereference -Wold-style-cast)
+        -Wcast-align -Wduplicated-cond -Wlogical-op -Wold-style-cast)
     target_compile_definitions(${target} PRIVATE
         QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00 QT_NO_CAST_TO_ASCII
         QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
@@ -36,7 +36,7 @@ function(zeplet_sanitize target)
     endforeach()
     if("undefined" IN_LIST ZEPLET_SANITIZE)
         target_compile_options(${target} PRIVATE -fno-sanitize-recover=undefined)
-        # The sanitizers' own instrumentation makes these two warnings lie.
-        target_compile_options(${target} PRIVATE -Wno-null-dereference -Wno-maybe-uninitialized)
+        # The sanitizers' own instrumentation makes this warning lie.
+        target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
     endif()
 endfunction()

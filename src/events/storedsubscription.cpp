@@ -3,11 +3,22 @@
 namespace zeplet
 {
 
-StoredSubscription::StoredSubscription(ZepletEventSubscription subscription)
-    : ZepletEventSubscription(std::move(subscription))
+StoredSubscription::StoredSubscription(const ZepletEventSubscription &subscription)
+    : ZepletEventSubscription(subscription)
     , storedId(id)
-    , storedType(eventType)
     , storedPlugin(pluginName)
+    , storedType(eventType)
+    , storedOneShot(isOneShot())
+{
+}
+
+StoredSubscription::StoredSubscription(const QString &plugin, ZepletEventType type,
+                                       QSharedPointer<ZepletEventHandler> eventHandler)
+    : ZepletEventSubscription(QString(), plugin, type, std::move(eventHandler))
+    , storedId(id)
+    , storedPlugin(plugin)
+    , storedType(type)
+    , storedOneShot(isOneShot())
 {
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaObject>
 #include <QSharedPointer>
 #include <QVector>
 
@@ -53,24 +54,56 @@ private:
 struct SubscriptionContext {
     std::atomic<bool> destroyed {false};
     PlacedList<StoredSubscription *> subscriptions;
+    /// To the object's destroyed().
+    QMetaObject::Connection connection;
+};
+
+/// The time of the calls of one dispatch. The clock is read for every call; the QDateTime, which
+/// costs as much again, is made once for each millisecond.
+class InvocationClock
+{
+public:
+    const QDateTime &now()
+    {
+        const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
+        if (milliseconds != m_milliseconds) {
+            m_milliseconds = milliseconds;
+            m_time = QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+        }
+        return m_time;
+    }
+
+private:
+    qint64 m_milliseconds = -1;
+    QDateTime m_time;
 };
 
 /// A subscription in the manager, with its places in all containers.
-struct StoredSubscription : ZepletEventSubscription {
-    explicit StoredSubscription(ZepletEventSubscription subscription);
+struct StoredSubscription final : ZepletEventSubscription {
+    explicit StoredSubscription(const ZepletEventSubscription &subscription);
+    StoredSubscription(const QString &plugin, ZepletEventType type,
+                       QSharedPointer<ZepletEventHandler> eventHandler);
 
     /// Whether a dispatch may call it: valid, and the context object has not died.
-    bool isCallable() const { return !isOrphaned() && isValid(); }
+    bool isCallable() const { return !isOrphaned() && handler && handler->isValid(); }
     bool isOrphaned() const
     {
         return context && context->destroyed.load(std::memory_order_acquire);
+    }
+    /// handleEvent() for a subscription that is known to be callable.
+    void invoke(const ZepletEvent &event, InvocationClock &clock)
+    {
+        handler->handleEvent(event);
+        ++invokeCount;
+        lastInvokedTime = clock.now();
     }
 
     // The keys under which it is stored. The public members could be changed by who holds the
     // record.
     const QString storedId;
-    const ZepletEventType storedType;
     const QString storedPlugin;
+    const ZepletEventType storedType;
+    const bool storedOneShot;
 
     int typePlace = -1;
     int pluginPlace = -1;

@@ -32,13 +32,31 @@ Private::Snapshot Private::subscribers(ZepletEventType type) const
     return index().subscribers(type);
 }
 
+bool Private::isWatched(QObject *object) const
+{
+    QMutexLocker lock(&mutex);
+    const auto context = contexts.constFind(object);
+    return context != contexts.constEnd() && (*context)->connection;
+}
+
+void Private::setWatched(QObject *object, const QMetaObject::Connection &connection)
+{
+    QMutexLocker lock(&mutex);
+    contextOf(object)->connection = connection;
+}
+
 void Private::bind(QObject *object, StoredSubscription &record)
+{
+    record.context = contextOf(object);
+    record.context->subscriptions.append(&record, &StoredSubscription::contextPlace);
+}
+
+const QSharedPointer<SubscriptionContext> &Private::contextOf(QObject *object)
 {
     auto &context = contexts[object];
     if (!context)
         context = QSharedPointer<SubscriptionContext>::create();
-    record.context = context;
-    context->subscriptions.append(&record, &StoredSubscription::contextPlace);
+    return context;
 }
 
 void Private::unbind(StoredSubscription &record)
@@ -160,10 +178,9 @@ QString ZepletEventSystem::doSubscribe(ZepletEventType type,
                                        QSharedPointer<ZepletEventHandler> handler,
                                        const QString &pluginName, QObject *context)
 {
-    if (context)
+    if (context && !d->isWatched(context))
         watchContext(context);
-    const auto record = StoredPointer::create(
-        ZepletEventSubscription(QString(), pluginName, type, std::move(handler)));
+    const auto record = StoredPointer::create(pluginName, type, std::move(handler));
 
     QMutexLocker lock(&d->mutex);
     d->index().insert(record);
@@ -177,8 +194,11 @@ QString ZepletEventSystem::doSubscribe(ZepletEventType type,
 // locking, because connecting calls the object's connectNotify().
 void ZepletEventSystem::watchContext(QObject *context)
 {
-    connect(context, &QObject::destroyed, this, &ZepletEventSystem::onContextDestroyed,
-            static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::UniqueConnection));
+    const auto connection
+        = connect(context, &QObject::destroyed, this, &ZepletEventSystem::onContextDestroyed,
+                  static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::UniqueConnection));
+    if (connection)
+        d->setWatched(context, connection);
 }
 
 void ZepletEventSystem::onContextDestroyed(QObject *object)
@@ -213,13 +233,14 @@ void ZepletEventSystem::publishAsync(ZepletEventType type, const QVariant &data,
 void ZepletEventSystem::dispatchEvent(const ZepletEvent &event)
 {
     const auto snapshot = d->subscribers(event.type);
+    InvocationClock clock;
     QStringList fired;
     for (const StoredPointer &record : snapshot) {
         if (!record->isCallable())
             continue;
-        record->handleEvent(event);
+        record->invoke(event, clock);
         d->totalEventsHandled.fetch_add(1, std::memory_order_relaxed);
-        if (record->isOneShot() && record->invokeCount > 0)
+        if (record->storedOneShot && record->invokeCount > 0)
             fired.append(record->storedId);
     }
     if (!fired.isEmpty())

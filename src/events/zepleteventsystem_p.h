@@ -27,6 +27,11 @@ public:
 
     /// The subscribers of that moment. Locks `mutex`.
     Snapshot subscribers(ZepletEventType type) const;
+    /// Whether the object's destroyed() is connected: it may have cut all its connections since the
+    /// last subscription. Locks `mutex`.
+    bool isWatched(QObject *object) const;
+    /// Locks `mutex`.
+    void setWatched(QObject *object, const QMetaObject::Connection &connection);
     /// Adds the record to those of its context object. Needs `mutex` locked.
     void bind(QObject *object, StoredSubscription &record);
     /// Removes one subscription and tells of it; null for an unknown id. Needs `mutex` locked.
@@ -52,6 +57,7 @@ public:
     alignas(64) std::atomic<quint64> totalEventsHandled {0};
 
 private:
+    const QSharedPointer<SubscriptionContext> &contextOf(QObject *object);
     static void unbind(StoredSubscription &record);
 
     ZepletEventSystem *const q;

@@ -24,8 +24,10 @@ QList<QSharedPointer<ZepletEventSubscription>> toPublicList(const Private::Snaps
 StoredPointer Private::insert(const StoredPointer &record)
 {
     QMutexLocker lock(&mutex);
-    StoredPointer replaced = takeLocked(record->storedId);
-    byId.insert(record->storedId, record);
+    StoredPointer &stored = byId[record->storedId];
+    StoredPointer replaced = std::exchange(stored, record);
+    if (replaced)
+        unlink(*replaced);
     byType[record->storedType].append(record, &StoredSubscription::typePlace);
     byPlugin[record->storedPlugin].append(record.data(), &StoredSubscription::pluginPlace);
     return replaced;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <vector>
 
 namespace ostrel
@@ -58,7 +59,8 @@ private:
     {
         m_capacity = m_capacity ? m_capacity * 2 : 256;
         void *block = std::realloc(static_cast<void *>(m_nodes), size_t(m_capacity) * sizeof(Node));
-        Q_CHECK_PTR(block);
+        if (!block)
+            throw std::bad_alloc();
         m_nodes = static_cast<Node *>(block);
     }
 

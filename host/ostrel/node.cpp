@@ -320,18 +320,20 @@ Node *Node::descend(QStringView step) const
     return index >= 0 ? childAt(index) : child(NameTable::instance().find(step));
 }
 
-void Node::resize(quint32 capacity)
+Children *Node::resize(quint32 capacity)
 {
     Children *old = m_payload.children;
     const size_t bytes = sizeof(Children) + capacity * sizeof(Node);
     auto *block = static_cast<Children *>(std::realloc(old, bytes));
-    Q_CHECK_PTR(block);
+    if (!block)
+        throw std::bad_alloc();
     if (!old)
         *block = {0, 0, nullptr};
     block->capacity = capacity;
     m_payload.children = block;
     if (block != old)
-        followMoves(begin(), end());
+        followMoves(block->nodes(), block->nodes() + block->count);
+    return block;
 }
 
 void Node::reserve(int count)
@@ -345,8 +347,7 @@ Node *Node::append(NameId name)
     Q_ASSERT(isContainer());
     Children *block = m_payload.children;
     if (!block || block->count == block->capacity)
-        resize(block ? block->count + block->count / 2 + 1 : 2);
-    block = m_payload.children;
+        block = resize(block ? block->count + block->count / 2 + 1 : 2);
     Node *node = new (block->nodes() + block->count) Node(name);
     if (block->index && !block->index->contains(name))
         block->index->insert(name, block->count);
@@ -371,9 +372,9 @@ void Node::adopt(Kind kind, Node *raw, int count)
     reset(kind);
     if (!count)
         return;
-    resize(quint32(count));
-    moveBytes(begin(), raw, quint32(count));
-    m_payload.children->count = quint32(count);
+    Children *block = resize(quint32(count));
+    moveBytes(block->nodes(), raw, quint32(count));
+    block->count = quint32(count);
     followMoves(begin(), end());
 }
 

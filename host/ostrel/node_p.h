@@ -105,7 +105,7 @@ private:
     };
 
     Children *children() const { return isContainer() ? m_payload.children : nullptr; }
-    void resize(quint32 capacity);
+    Children *resize(quint32 capacity);
     void destroyContent();
     void destroyChildren();
     void setVariant(const QVariant &value);

@@ -15,7 +15,7 @@ Answer Waiter::wait(int timeout)
         return m_answer;
     int expected = Waiting;
     if (m_state.compare_exchange_strong(expected, Abandoned))
-        return {Answer::Status::TimedOut, {}, 0, {}};
+        return {Answer::Status::TimedOut, {}, 0, QStringLiteral("no answer in time")};
     m_done.acquire(); // the answer is being put in place at this moment
     return m_answer;
 }

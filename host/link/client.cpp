@@ -20,6 +20,8 @@ namespace
 
 /** A flood is delivered in slices of this length, so that the thread gets to its other events. */
 constexpr int deliverySlice = 8; // ms
+/** What the first reads of a new link may take. */
+constexpr int requiredLimit = 5000; // ms
 
 Answer notSent(const QString &reason)
 {
@@ -42,6 +44,7 @@ public:
     std::shared_ptr<Channel> channel; ///< null: closed
     Connection *connection = nullptr; ///< belongs to the I/O thread
     quint64 session = 0; ///< the one this side has heard of; 0: none
+    quint64 unknownLogged = 0; ///< the session in which logUnknown() has logged
     qint64 lastId = 0;
     QHash<qint64, Callback> callbacks;
 };
@@ -62,6 +65,7 @@ Client::~Client()
 void Client::open(const QUrl &url)
 {
     close();
+    d->unknownLogged = 0;
     d->connection = new Connection(d->name, url);
     d->channel = std::make_shared<Channel>(this, d->connection);
     d->connection->setChannel(d->channel);
@@ -128,6 +132,38 @@ Answer Client::call(const QString &method, const QJsonValue &argument, int timeo
     if (!d->channel->send(std::move(outgoing)))
         return notSent(QStringLiteral("too much waits to be sent"));
     return waiter->wait(static_cast<int>(deadline.remainingTime()));
+}
+
+void Client::require(const QString &method, const std::function<void(const QJsonObject &)> &next)
+{
+    send(method, {}, requiredLimit, [=](const Answer &answer) {
+        if (answer.isResult() && answer.value.isObject())
+            next(answer.value.toObject());
+        else if (answer.isResult())
+            drop(method + QStringLiteral(": not an object"));
+        else if (answer.status != Answer::Status::Lost)
+            drop(method + QStringLiteral(": ") + inOneLine(answer.reason));
+    });
+}
+
+void Client::logUnknown(const QString &method)
+{
+    if (d->unknownLogged == d->session)
+        return;
+    d->unknownLogged = d->session;
+    qCWarning(linkLog).noquote() << d->name
+            + QStringLiteral(": a notification without meaning here: ") + inOneLine(method);
+}
+
+// A lost link, and a request that was not sent, have had their lines.
+void Client::logFailure(const QString &method, const Answer &answer) const
+{
+    if (answer.status == Answer::Status::Refused)
+        qCWarning(linkLog).noquote()
+            << d->name + QStringLiteral(": %1 refused: ").arg(method) + inOneLine(answer.reason);
+    else if (answer.status == Answer::Status::TimedOut)
+        qCWarning(linkLog).noquote()
+            << d->name + QStringLiteral(": %1: no answer in time").arg(method);
 }
 
 bool Client::event(QEvent *event)
@@ -211,6 +247,11 @@ void Client::Private::finish(qint64 id, const Answer &answer)
     const Callback callback = callbacks.take(id);
     if (callback)
         deliver(name, [&] { callback(answer); });
+}
+
+QString inOneLine(const QString &text)
+{
+    return text.left(300).simplified();
 }
 
 void deliver(const QString &context, const std::function<void()> &function)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QJsonValue>
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -66,6 +66,16 @@ public:
      *  0 or less: defaultTimeout. */
     Answer call(const QString &method, const QJsonValue &argument, int timeout);
 
+    /** Reads an object that the link is of no use without: next gets it, later. Where it is
+     * refused, does not come within five seconds or is no object, the session is dropped. */
+    void require(const QString &method, const std::function<void(const QJsonObject &)> &next);
+
+    /** Logs a notification that makes no sense to its receiver, once in a session. */
+    void logUnknown(const QString &method);
+
+    /** Logs why a request of this client came to no result, if nothing has said so yet. */
+    void logFailure(const QString &method, const Answer &answer) const;
+
     static constexpr int defaultTimeout = 4800;
 
     bool event(QEvent *event) override;
@@ -80,6 +90,9 @@ private:
     class Private;
     std::unique_ptr<Private> d;
 };
+
+/** What a peer has written, shortened for a log line. */
+QString inOneLine(const QString &text);
 
 /** Calls function; what it throws is caught and logged with its text. context names the delivery.
  */

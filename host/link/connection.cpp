@@ -280,7 +280,8 @@ void Connection::receive(const QString &text)
         return;
     }
     if (message.kind == Message::Kind::Request)
-        cutOff(QStringLiteral("a request came from the peer: ") + message.method, Cause::Fault);
+        cutOff(QStringLiteral("a request came from the peer: ") + inOneLine(message.method),
+               Cause::Fault);
     else if (message.kind == Message::Kind::Notification)
         receiveNotification(message, frame.size());
     else

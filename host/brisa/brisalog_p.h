@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+namespace brisa
+{
+
+Q_DECLARE_LOGGING_CATEGORY(brisaLog)
+
+} // namespace brisa

@@ -1,5 +1,6 @@
 #include "kest/modulerunner.h"
 
+#include "brisa/managerhelper.h"
 #include "kest/bmodule.h"
 #include "kest/modulefactory.h"
 #include "ostrel/moduleobject.h"
@@ -235,6 +236,7 @@ void ModuleRunner::fault(Record &record, const QString &error)
 {
     record.faulty = true;
     report(record.name, Faulty, error);
+    brisa::ManagerHelper::throwLog(record.module, QStringLiteral("error"), error);
     Q_EMIT moduleFaulty(record.name, error);
 }
 

@@ -1,6 +1,6 @@
 #include "kivra/physicalbuttonregistry_p.h"
 
-#include <QtDebug>
+#include "brisa/managerhelper.h"
 
 #include <exception>
 
@@ -12,9 +12,11 @@ namespace kivra
 namespace
 {
 
-void reportFailure(QObject *, const QString &label, const QString &problem)
+void reportFailure(QObject *module, const QString &label, const QString &problem)
 {
-    qWarning().noquote() << PhysicalButtonRegistry::tr("The key \"%1\" failed: %2").arg(label, problem);
+    brisa::ManagerHelper::throwLog(
+        module, QStringLiteral("error"),
+        PhysicalButtonRegistry::tr("The key \"%1\" failed: %2").arg(label, problem));
 }
 
 } // namespace

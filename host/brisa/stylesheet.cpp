@@ -48,7 +48,7 @@ QLineEdit {
 }
 QLineEdit:focus { border-color: @accent; }
 QLineEdit:disabled { color: @disabledText; background: @raised; }
-QComboBox, QAbstractSpinBox { min-height: 54px; }
+QComboBox, QAbstractSpinBox { min-height: 54px; padding-left: 8px; }
 QComboBox QAbstractItemView { background: @surface; border: 1px solid @border; }
 QComboBox QAbstractItemView::item { min-height: 56px; padding-left: 12px; }
 QPlainTextEdit, QTextEdit, QAbstractItemView {
@@ -92,6 +92,7 @@ QScrollBar::handle:horizontal { min-width: 56px; }
 QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::sub-page {
     width: 0; height: 0; background: transparent;
 }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QToolTip { background: @raised; color: @text; border: 1px solid @border; padding: 8px; }
 QMenu { background: @surface; border: 1px solid @border; padding: 4px; }
 QMenu::item { min-height: 40px; padding: 8px 24px; border-radius: 4px; }

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QToolTip>
 
 namespace brisa
 {
@@ -95,7 +96,7 @@ void ThemeManager::setTheme(Theme theme)
     m_styleSheet = globalStyleSheet(m_colours);
     ++m_revision;
     if (m_applied)
-        QApplication::setPalette(palette());
+        applyPalette();
     Q_EMIT themeChanged();
 }
 
@@ -174,7 +175,14 @@ void ThemeManager::applyToApplication()
     m_applied = true;
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setFont(font(TextSize::Body));
+    applyPalette();
+}
+
+// Tool tips have a palette of their own.
+void ThemeManager::applyPalette()
+{
     QApplication::setPalette(palette());
+    QToolTip::setPalette(palette());
 }
 
 } // namespace brisa

@@ -91,6 +91,8 @@ Q_SIGNALS:
     void themeChanged();
 
 private:
+    void applyPalette();
+
     Theme m_theme = Theme::Light;
     ThemeColours m_colours;
     QString m_styleSheet;

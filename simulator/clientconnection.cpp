@@ -47,6 +47,9 @@ ClientConnection::ClientConnection(QWebSocket *socket, QTcpSocket *transport,
 ClientConnection::~ClientConnection()
 {
     m_socket->disconnect(this);
+    m_socket.reset();
+    if (m_transport)
+        m_transport->deleteLater();
 }
 
 void ClientConnection::notify(const rpc::Message &notification)

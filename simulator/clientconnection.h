@@ -31,7 +31,7 @@ class ClientConnection : public QObject
     Q_OBJECT
 
 public:
-    /** Owns `socket`; `transport` is the socket below it. */
+    /** Owns `socket` and `transport`, the socket below it. */
     ClientConnection(QWebSocket *socket, QTcpSocket *transport, const EndpointContext &context,
                      QObject *parent = nullptr);
     ~ClientConnection() override;

@@ -9,7 +9,8 @@ namespace simulator
 
 namespace
 {
-constexpr int kHandshakeMs = 10000;
+/** Who has not asked for a WebSocket by then takes the place of a client in vain. */
+constexpr int kHandshakeMs = 5000;
 /** A frame of the greatest size with its header has to fit. */
 constexpr qint64 kReadBuffer = rpc::maxFrameBytes + 64 * 1024;
 } // namespace
@@ -105,20 +106,42 @@ void Endpoint::accept()
             transport->deleteLater();
             continue;
         }
-        const quint16 peer = transport->peerPort();
-        m_transports.insert(peer, transport);
-        connect(transport, &QObject::destroyed, this, [this, peer] { m_transports.remove(peer); });
-        transport->setReadBufferSize(kReadBuffer);
-        // A small frame must not wait for the peer's ACK of the one before.
-        transport->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        admit(transport);
         m_webSockets.handleConnection(transport);
     }
 }
 
+void Endpoint::admit(QTcpSocket *transport)
+{
+    const quint16 peer = transport->peerPort();
+    m_transports.insert(peer, transport);
+    m_inHandshake.insert(peer);
+    connect(transport, &QObject::destroyed, this, [this, peer] {
+        m_transports.remove(peer);
+        m_inHandshake.remove(peer);
+    });
+    // The listener, which owns it, would keep it as long as it lives itself.
+    connect(transport, &QTcpSocket::disconnected, this, [this, transport, peer] {
+        if (m_inHandshake.contains(peer))
+            transport->deleteLater();
+    });
+    QTimer::singleShot(kHandshakeMs, transport, [this, transport, peer] {
+        if (!m_inHandshake.contains(peer))
+            return;
+        report(QStringLiteral("client closed: no handshake within %1 ms").arg(kHandshakeMs));
+        transport->abort();
+    });
+    transport->setReadBufferSize(kReadBuffer);
+    // A small frame must not wait for the peer's ACK of the one before.
+    transport->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+}
+
 void Endpoint::upgraded()
 {
-    while (QWebSocket *socket = m_webSockets.nextPendingConnection())
+    while (QWebSocket *socket = m_webSockets.nextPendingConnection()) {
+        m_inHandshake.remove(socket->peerPort());
         add(socket, m_transports.value(socket->peerPort()));
+    }
 }
 
 void Endpoint::add(QWebSocket *socket, QTcpSocket *transport)
@@ -128,6 +151,10 @@ void Endpoint::add(QWebSocket *socket, QTcpSocket *transport)
             [this](const QString &text) { emit received(m_name, text); });
     connect(client, &ClientConnection::problem, this, &Endpoint::report);
     connect(client, &ClientConnection::gone, this, [this, client] { remove(client); });
+    // A WebSocket that goes cuts all connections of the socket below it, ours to destroyed() as
+    // well.
+    connect(client, &QObject::destroyed, this,
+            [this, peer = socket->peerPort()] { m_transports.remove(peer); });
     m_clients += client;
     client->setSilent(m_silent);
 }

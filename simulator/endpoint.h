@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QVector>
@@ -48,6 +49,7 @@ signals:
 
 private:
     void accept();
+    void admit(QTcpSocket *transport);
     void upgraded();
     void add(QWebSocket *socket, QTcpSocket *transport);
     void remove(ClientConnection *client);
@@ -56,6 +58,7 @@ private:
     QString m_name;
     EndpointContext m_context;
     QHash<quint16, QPointer<QTcpSocket>> m_transports; ///< by the client's port
+    QSet<quint16> m_inHandshake; ///< those that have not asked for a WebSocket yet
     QTcpServer m_listener;
     QWebSocketServer m_webSockets; ///< for the handshake only; it listens nowhere
     QTcpSocket m_reserved; ///< bound to the port, never listening

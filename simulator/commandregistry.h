@@ -29,7 +29,7 @@ public:
     }
 
     /** A name that exists already gets the new handler. */
-    void add(const QString &name, Handler handler) { m_handlers.insert(name, std::move(handler)); }
+    void add(const QString &name, const Handler &handler) { m_handlers.insert(name, handler); }
 
     Reply run(const QString &name, const QJsonValue &arguments, Session &session) const
     {

@@ -27,7 +27,7 @@ public:
         int end = 0;
         while (end < m_rest.size() && !m_rest.at(end).isSpace())
             ++end;
-        const QString word = m_rest.left(end);
+        QString word = m_rest.left(end);
         m_rest = m_rest.mid(end).trimmed();
         return word;
     }

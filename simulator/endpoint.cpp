@@ -12,7 +12,7 @@ namespace
 /** Who has not asked for a WebSocket by then takes the place of a client in vain. */
 constexpr int kHandshakeMs = 5000;
 /** A frame of the greatest size with its header has to fit. */
-constexpr qint64 kReadBuffer = rpc::maxFrameBytes + 64 * 1024;
+constexpr qint64 kReadBuffer = rpc::maxFrameBytes + qint64(64) * 1024;
 } // namespace
 
 Endpoint::Endpoint(const QString &name, const EndpointContext &context, QObject *parent)

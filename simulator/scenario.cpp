@@ -14,7 +14,7 @@ namespace simulator
 
 namespace
 {
-constexpr qint64 kMaxFileSize = 16 * 1024 * 1024;
+constexpr qint64 kMaxFileSize = qint64(16) * 1024 * 1024;
 constexpr int kMaxStepMs = 24 * 3600 * 1000;
 constexpr int kMinStepMs = 10;
 
@@ -77,9 +77,9 @@ Answers readAnswers(const QJsonValue &value, JsonError &error)
     JsonReader reader(value, QStringLiteral("answers"), error);
     reader.allowOnly(
         {QStringLiteral("controller"), QStringLiteral("hub"), QStringLiteral("plugin")});
-    const Answers answers {toHash(reader.object(QStringLiteral("controller"))),
-                           toHash(reader.object(QStringLiteral("hub"))),
-                           toHash(reader.object(QStringLiteral("plugin")))};
+    Answers answers {toHash(reader.object(QStringLiteral("controller"))),
+                     toHash(reader.object(QStringLiteral("hub"))),
+                     toHash(reader.object(QStringLiteral("plugin")))};
     for (auto answer = answers.plugin.cbegin(); answer != answers.plugin.cend(); ++answer) {
         if (!answer->isArray())
             error.report(QStringLiteral("answers.plugin.") + answer.key(),

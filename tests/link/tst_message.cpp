@@ -147,7 +147,8 @@ void TestMessage::damagedFramesAreSurvived()
     const QByteArray good = rpc::encode(Message::request(
         12, "a.b", QJsonObject {{"x", QJsonArray {1, 2.5, "t", QJsonValue()}}, {"y", true}}));
     QRandomGenerator random(20240506);
-    const QByteArray alphabet("{}[]\",:0123456789eE.-tfn\\u\0\xc3\x28 ", 34);
+    const char letters[] = "{}[]\",:0123456789eE.-tfn\\u\0\xc3\x28 ";
+    const QByteArray alphabet(letters, sizeof(letters) - 1);
     for (int round = 0; round < 20000; ++round) {
         QByteArray frame = good;
         for (int hit = random.bounded(1, 6); hit > 0; --hit)

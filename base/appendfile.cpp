@@ -1,5 +1,7 @@
 #include "appendfile.h"
 
+#include "ascii.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -37,7 +39,8 @@ bool AppendFile::open(const QString &path)
 {
     close();
     m_written = 0;
-    const QByteArray encoded = QFile::encodeName(path);
+    // The codec is the dearest step of a short line otherwise.
+    const QByteArray encoded = isAscii(path) ? path.toLatin1() : QFile::encodeName(path);
     m_descriptor = openForAppending(encoded);
     if (m_descriptor < 0 && errno == ENOENT && QDir().mkpath(QFileInfo(path).absolutePath())) {
         m_descriptor = openForAppending(encoded);

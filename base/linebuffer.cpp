@@ -1,10 +1,22 @@
 #include "linebuffer.h"
 
+#include "ascii.h"
+
+#include <algorithm>
+
 namespace logbase
 {
 
 void LineBuffer::append(const QString &text)
 {
+    // Takes no memory in between.
+    if (isAscii(text)) {
+        const int end = m_bytes.size();
+        m_bytes.resize(end + text.size());
+        std::transform(text.begin(), text.end(), m_bytes.begin() + end,
+                       [](QChar c) { return static_cast<char>(c.unicode()); });
+        return;
+    }
     const QByteArray utf8 = text.toUtf8();
     m_bytes.append(utf8.constData(), utf8.size());
 }

@@ -197,7 +197,7 @@ void TestLogBase::fullDeviceIsAnError()
 void TestLogBase::appendersKeepEachOthersLines()
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath("made/on/the/way/a.log");
+    const QString path = directory.filePath("made/on/the/wäg/a.log");
     AppendFile one;
     AppendFile two;
     QVERIFY(one.open(path));

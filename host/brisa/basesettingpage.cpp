@@ -2,10 +2,9 @@
 
 #include "brisa/elidedlabel.h"
 #include "brisa/thememanager.h"
+#include "brisa/touchscrollarea_p.h"
 
 #include <QHBoxLayout>
-#include <QScrollArea>
-#include <QScroller>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -29,19 +28,6 @@ QWidget *makeTitleBar(const QString &title, QWidget *page)
     return bar;
 }
 
-// A content that needs more room than the centre area has can be scrolled instead of being cut.
-QScrollArea *makeScrollArea(QWidget *page)
-{
-    auto *const scroll = new QScrollArea(page);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(new QWidget);
-    scroll->widget()->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
-    QScroller::grabGesture(scroll->viewport(), QScroller::TouchGesture);
-    return scroll;
-}
-
 } // namespace
 
 BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName, QWidget *parent,
@@ -50,7 +36,8 @@ BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName,
     , m_page(new QWidget(parent))
     , m_title(makeTitleBar(pluginName.isEmpty() ? name : pluginName, m_page))
 {
-    QScrollArea *const scroll = makeScrollArea(m_page);
+    // A content that needs more room than the centre area has can be scrolled instead of being cut.
+    auto *const scroll = new TouchScrollArea(TouchScrollArea::By::Flick, m_page);
     m_content = scroll->widget();
     m_page->setObjectName(name + QLatin1Char('.') + pluginName);
     auto *const column = new QVBoxLayout(m_page);

@@ -2,13 +2,12 @@
 
 #include "brisa/elidedlabel.h"
 #include "brisa/thememanager.h"
+#include "brisa/touchscrollarea_p.h"
 #include "kest/centerwidget.h"
 #include "kivra/navigationitem_p.h"
 #include "kivra/navigationtree_p.h"
 
 #include <QPainter>
-#include <QScrollArea>
-#include <QScroller>
 #include <QVBoxLayout>
 
 namespace qo
@@ -23,32 +22,17 @@ namespace
 
 constexpr int BarWidth = 25 * metrics::Grid;
 
-QScrollArea *makeScrollArea(QWidget *content, QWidget *parent)
-{
-    auto *const scroll = new QScrollArea(parent);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(content);
-    scroll->viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
-    scroll->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
-    QScroller::grabGesture(scroll->viewport(), QScroller::TouchGesture);
-    return scroll;
-}
-
 } // namespace
 
 NavigationBar::NavigationBar(QWidget *parent)
     : QWidget(parent)
+    , m_scroll(new brisa::TouchScrollArea(brisa::TouchScrollArea::By::Flick, this))
+    , m_column(new QVBoxLayout(m_scroll->widget()))
 {
-    auto *const content = new QWidget(this);
-    m_column = new QVBoxLayout(content);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_column->setContentsMargins(metrics::Grid, metrics::Grid, metrics::Grid, metrics::Grid);
     m_column->setSpacing(metrics::Grid / 2);
     m_column->setAlignment(Qt::AlignTop);
-    m_scroll = makeScrollArea(content, this);
     auto *const frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 1, 0);
     frame->addWidget(m_scroll);

@@ -2,6 +2,7 @@
 
 #include "brisa/glyph.h"
 #include "brisa/thememanager.h"
+#include "brisa/touchscrollarea_p.h"
 #include "kest/centerwidget.h"
 #include "kivra/physicalbuttonregistry_p.h"
 #include "kivra/physicalkey_p.h"
@@ -23,14 +24,16 @@ using brisa::ThemeManager;
 namespace
 {
 constexpr int SelectorTextWidth = 11 * metrics::Grid;
-}
+constexpr int KeysWithoutScrolling = 14; // of the least width, on a panel of 1280 pixels
+constexpr int ScrollBarHeight = 2 * metrics::Grid;
+} // namespace
 
 PhysicalButtonBar::PhysicalButtonBar(Qt::Orientation orientation, QWidget *parent)
     : QWidget(parent)
     , m_orientation(orientation)
     , m_selector(new QToolButton(this))
-    , m_keyArea(new QWidget(this))
-    , m_keys(new QGridLayout(m_keyArea))
+    , m_scroll(new brisa::TouchScrollArea(brisa::TouchScrollArea::By::Bars, this))
+    , m_keys(new QGridLayout(m_scroll->widget()))
 {
     buildLayout();
     connect(m_selector, &QToolButton::clicked, this, &PhysicalButtonBar::choosePage);
@@ -40,8 +43,8 @@ PhysicalButtonBar::PhysicalButtonBar(Qt::Orientation orientation, QWidget *paren
             &PhysicalButtonBar::scheduleRefresh);
     connect(instantiatedCenterWidget(), &kest::CenterWidget::currentKeyChanged, this,
             &PhysicalButtonBar::followCentre);
-    followRegistry();
-    followCentre();
+    setVisible(false);
+    scheduleRefresh();
 }
 
 PhysicalButtonBar::~PhysicalButtonBar() = default;
@@ -54,9 +57,8 @@ void PhysicalButtonBar::buildLayout()
     box->setContentsMargins(metrics::Grid, metrics::Grid, metrics::Grid, metrics::Grid);
     box->setSpacing(metrics::Grid);
     box->addWidget(m_selector, 0, horizontal ? Qt::AlignTop : Qt::Alignment());
-    box->addWidget(m_keyArea, 1, horizontal ? Qt::Alignment() : Qt::AlignTop);
-    m_keys->setContentsMargins(0, 0, 0, 0);
-    m_keys->setSpacing(metrics::Grid);
+    box->addWidget(m_scroll, 1);
+    buildKeyArea();
     m_selector->setObjectName(QStringLiteral("keyPageSelector"));
     m_selector->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_selector->setFixedHeight(metrics::Touch);
@@ -66,6 +68,18 @@ void PhysicalButtonBar::buildLayout()
     m_selector->setIconSize({metrics::Icon, metrics::Icon});
     if (!horizontal)
         setFixedWidth(26 * metrics::Grid);
+}
+
+// More keys than there is room for must not push the panel beyond its screen.
+void PhysicalButtonBar::buildKeyArea()
+{
+    m_keys->setContentsMargins(0, 0, 0, 0);
+    m_keys->setSpacing(metrics::Grid);
+    m_keys->setAlignment(Qt::AlignTop);
+    if (m_orientation == Qt::Horizontal)
+        m_scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    else
+        m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 QString PhysicalButtonBar::currentPage() const
@@ -128,6 +142,7 @@ void PhysicalButtonBar::showPage(const KeyPagePtr &page)
     if (page) {
         refreshSelector();
         addKeys();
+        fitHeight();
     }
     for (PhysicalKey *key : earlier) {
         key->hide();
@@ -138,6 +153,7 @@ void PhysicalButtonBar::showPage(const KeyPagePtr &page)
 void PhysicalButtonBar::refreshSelector()
 {
     const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
+    m_scroll->setStyleSheet(ThemeManager::instance()->styleSheet());
     m_selector->setStyleSheet(ThemeManager::instance()->styleSheet()
                               + QStringLiteral("QToolButton { min-width: %1px; }")
                                     .arg(metrics::Icon + SelectorTextWidth));
@@ -153,10 +169,20 @@ void PhysicalButtonBar::addKeys()
     const bool horizontal = m_orientation == Qt::Horizontal;
     for (int row = 0; row < 2; ++row) {
         for (int column = 0; column < m_page->rows[row].size(); ++column) {
-            auto *const key = new PhysicalKey(m_page, row, column, m_keyArea);
+            auto *const key = new PhysicalKey(m_page, row, column, m_scroll->widget());
             m_keys->addWidget(key, horizontal ? row : column, horizontal ? column : row);
         }
     }
+}
+
+void PhysicalButtonBar::fitHeight()
+{
+    if (m_orientation == Qt::Vertical)
+        return;
+    const int rows = m_page->rows[1].isEmpty() ? 1 : 2;
+    const int longest = qMax(m_page->rows[0].size(), m_page->rows[1].size());
+    const int bar = longest > KeysWithoutScrolling ? ScrollBarHeight : 0;
+    m_scroll->setFixedHeight(rows * metrics::Touch + (rows - 1) * metrics::Grid + bar);
 }
 
 QList<PhysicalKey *> PhysicalButtonBar::takeKeys()

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QScrollArea;
 class QToolButton;
 
 namespace qo
@@ -21,8 +22,8 @@ class PhysicalKey;
 /**
  * The panel's physical keys: the two rows of the current page of keys. The page follows the centre
  * area, and the operator may choose another with the selector. Hidden while nothing is registered.
- * Horizontal: rows one above the other; vertical: the rows are columns. Make the panel's centre
- * area first. GUI thread.
+ * Keys that do not fit can be scrolled to. Horizontal: rows one above the other; vertical: the rows
+ * are columns. Make the panel's centre area first. GUI thread.
  */
 class HOST_EXPORT PhysicalButtonBar : public QWidget
 {
@@ -40,18 +41,20 @@ protected:
 
 private:
     void buildLayout();
+    void buildKeyArea();
     void followCentre();
     void followRegistry();
     void scheduleRefresh();
     void showPage(const QSharedPointer<KeyPage> &page);
     void refreshSelector();
     void addKeys();
+    void fitHeight();
     QList<PhysicalKey *> takeKeys();
     void choosePage();
 
     Qt::Orientation m_orientation;
     QToolButton *m_selector;
-    QWidget *m_keyArea;
+    QScrollArea *m_scroll;
     QGridLayout *m_keys;
     QSharedPointer<KeyPage> m_page;
     bool m_scheduled = false;

@@ -9,6 +9,8 @@
 #include <functional>
 #include <stdexcept>
 
+Q_DECLARE_METATYPE(kest::ModuleFactory::Maker)
+
 namespace
 {
 
@@ -318,8 +320,6 @@ private Q_SLOTS:
                        "+destroy -destroy"));
     }
 };
-
-Q_DECLARE_METATYPE(kest::ModuleFactory::Maker)
 
 QTEST_MAIN(TestModuleRunner)
 #include "tst_modulerunner.moc"

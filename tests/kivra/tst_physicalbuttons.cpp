@@ -236,6 +236,28 @@ private Q_SLOTS:
         QTRY_VERIFY(find(*m_bar, "b"));
     }
 
+    void manyKeysDoNotWidenThePanel_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::newRow("horizontal") << int(Qt::Horizontal);
+        QTest::newRow("vertical") << int(Qt::Vertical);
+    }
+    void manyKeysDoNotWidenThePanel()
+    {
+        QFETCH(int, orientation);
+        PhysicalButtonBar bar(static_cast<Qt::Orientation>(orientation));
+        kest::BModule module;
+        QList<brisa::PhysicalButton> keys;
+        for (int i = 0; i < 40; ++i)
+            keys.append(key(QString::number(i)));
+        registerPhysicalButtons(&module, "main", keys, keys, {});
+        QTRY_VERIFY(find(bar, "39"));
+        QVERIFY(bar.minimumSizeHint().width() < 1280);
+        QVERIFY(bar.minimumSizeHint().height() < 300);
+        for (const char *label : {"0", "39"})
+            QVERIFY(find(bar, label)->height() >= 53 && find(bar, label)->width() >= 53);
+    }
+
 private:
     kest::CenterWidget *m_centre = nullptr;
     PhysicalButtonBar *m_bar = nullptr;

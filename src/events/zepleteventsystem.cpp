@@ -17,6 +17,12 @@ namespace
 
 ZepletEventSystem *s_instance = nullptr;
 
+QMutex &creationMutex()
+{
+    static QMutex creation;
+    return creation;
+}
+
 constexpr quint32 LastCustomType = 0xFFFF;
 
 } // namespace
@@ -122,10 +128,15 @@ Private::Snapshot Private::takeAll()
 
 ZepletEventSystem *ZepletEventSystem::instance()
 {
-    static QMutex creation;
-    QMutexLocker lock(&creation);
+    QMutexLocker lock(&creationMutex());
     if (!s_instance)
         s_instance = new ZepletEventSystem;
+    return s_instance;
+}
+
+ZepletEventSystem *ZepletEventSystem::existingInstance()
+{
+    QMutexLocker lock(&creationMutex());
     return s_instance;
 }
 

@@ -34,6 +34,8 @@ public:
     /// The bus, made by the first call, on whose thread asynchronous events are delivered. Any
     /// thread.
     static ZepletEventSystem *instance();
+    /// The bus if it has been made, for those that only want to leave it. Any thread.
+    static ZepletEventSystem *existingInstance();
     /// Deletes the bus with all subscriptions, silently. To be called once, when no other thread
     /// uses it.
     static void destroyInstance();

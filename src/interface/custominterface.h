@@ -1,0 +1,19 @@
+#pragma once
+
+#include <zeplet/export.h>
+#include <zeplet/interface/baseinterface.h>
+
+namespace zeplet
+{
+
+/** Extension point for interfaces of a customer. */
+class ZEPLET_EXPORT CustomInterface : public BaseInterface
+{
+public:
+    explicit CustomInterface(QObject *parent)
+        : BaseInterface(parent)
+    {
+    }
+};
+
+} // namespace zeplet

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <zeplet/interface/interfacemanager.h>
+
+#include <QList>
+#include <QMap>
+#include <QMetaObject>
+#include <QString>
+
+namespace zeplet
+{
+
+class InterfaceManager::InterfaceManagerPrivate
+{
+public:
+    using Connections = QMap<QString, QMetaObject::Connection>;
+    using Subscriptions = QMap<QString, QList<QString>>;
+
+    explicit InterfaceManagerPrivate(InterfaceManager *manager)
+        : q(manager)
+    {
+    }
+
+    /** Emits the manager's two signals; latch is kept by the caller for the process. */
+    void watchConnections(bool &latch);
+
+    /** Publish changes of a hub key or a notify path on the bus; invalid without a node. */
+    QMetaObject::Connection publishHubKey(const QString &serviceKey);
+    QMetaObject::Connection publishNotifyPath(const QString &notifyPath);
+
+    /** name and a number that no task of this process had before. */
+    QString createTaskId(const QString &name);
+
+    Connections nexoConnections; ///< per service key
+    Subscriptions nexoSubscriptions; ///< per service key, ids on the bus
+    Connections rcNotifyConnections; ///< per notify path
+    Subscriptions rcNotifySubscriptions; ///< per notify path, ids on the bus
+    InterfaceManager *q;
+};
+
+} // namespace zeplet

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <zeplet/export.h>
+#include <zeplet/interface/baseinterface.h>
+
+namespace zeplet
+{
+
+/** Extension point for interfaces of a service. */
+class ZEPLET_EXPORT ServiceInterface : public BaseInterface
+{
+public:
+    explicit ServiceInterface(QObject *parent)
+        : BaseInterface(parent)
+    {
+    }
+};
+
+} // namespace zeplet

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <zeplet/export.h>
+#include <zeplet/plugin/throwloglevel.h>
+
+#include <brisa/physicalbutton.h>
+#include <kest/bmodule.h>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace zeplet
+{
+
+class PluginBase;
+class PluginSettingPage;
+
+/**
+ * The host module of one plugin: gives it a page in the centre area and a navigation entry,
+ * forwards the host's life cycle calls, and carries out the UI services that the plugin asks for.
+ * Its destructor withdraws all of it. GUI thread.
+ */
+class ZEPLET_EXPORT Zeplet : public kest::BModule
+{
+    Q_OBJECT
+
+public:
+    Zeplet(const QString &name, QObject *parent);
+    ~Zeplet() override;
+
+    /** Set once, right after construction. The plugin is a child of this object. Null is an error
+     *  of the plugin: it is logged, "error" of the module's data node tells the host, and the
+     *  module does nothing when it is driven all the same. */
+    void setPlugin(PluginBase *plugin);
+
+    /** "zeplet" for every plugin. */
+    QString name() const override;
+    const QString &pluginName() const;
+
+    void setup() override;
+    void init() override;
+    void afterInit() override;
+    void render() override;
+    void idle() override;
+    void detach() override;
+
+    /** Puts the widget into the plugin's page, which owns it from then on. */
+    void createCenterWidgte(QWidget *widget);
+    /** Adds an item to the status bar, left of the host's stretch element. */
+    bool createStatusBar(QWidget *widget, int index);
+    /** Adds a page to the right side bar; page empty: the plugin's name. False, with an error
+     *  line, where the host has no side bar. */
+    bool createRightExpandWidgte(QWidget *widget, const QString &page);
+    /** Shows a page of the right side bar, and the bar. */
+    void switchRightExpandWidgte(const QString &page);
+    bool createPhyBtnPage(const QString &page, const QList<brisa::PhysicalButton> &first,
+                          const QList<brisa::PhysicalButton> &second, QStringList extra);
+    bool changePhyBtnStatus(const QString &page, bool enable);
+    /** Counts one modal window of this module in the host, or takes it back; false and no change
+     *  where it is that way already. */
+    bool changeModelWindowStatus(bool shown);
+    bool changeFullScreen(bool full);
+    /** Shows a message in the host's log banner. Returns 0. */
+    int ThrowLog(enThrowLogLevel level, const QString &message);
+    /** Removes the first navigation entry below parent that is linked to the centre page nav.
+     *  False for an empty parent only. */
+    bool cancelPage(const QString &parent, const QString &nav);
+
+private:
+    QString pageKey() const;
+    QString sidePageKey(const QString &page) const;
+    void registerNavigationPage();
+    void releaseHeld();
+
+    PluginBase *m_plugin = nullptr;
+    PluginSettingPage *m_settingPage = nullptr;
+    QString m_pluginName;
+    bool m_modelWindowShown = false;
+};
+
+} // namespace zeplet

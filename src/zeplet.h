@@ -1,0 +1,14 @@
+#pragma once
+
+// What plugin authors use.
+#include <zeplet/events/zepletevent.h>
+#include <zeplet/events/zepleteventfilters.h>
+#include <zeplet/events/zepleteventsystem.h>
+#include <zeplet/events/zepleteventtype.h>
+#include <zeplet/interface/interfacemanager.h>
+#include <zeplet/log/flog.h>
+#include <zeplet/log/qflog.h>
+#include <zeplet/log/qlog.h>
+#include <zeplet/plugin/pluginbase.h>
+#include <zeplet/plugin/pluginregister.h>
+#include <zeplet/plugin/uiservices.h>

@@ -1,5 +1,6 @@
 #include "pluginloader.h"
 
+#include "panellog.h"
 #include "plugincheck.h"
 #include "startguard.h"
 
@@ -7,6 +8,7 @@
 #include <QJsonArray>
 #include <QLibrary>
 #include <QSet>
+#include <brisa/managerhelper.h>
 #include <kest/modulefactory.h>
 #include <locale.h>
 #include <ostrel/moduleobject.h>
@@ -45,6 +47,20 @@ QSet<QString> registeredModules()
     return QSet<QString>(names.begin(), names.end());
 }
 
+void tellOperator(const QString &sentence)
+{
+    errorLine() << sentence;
+    brisa::ManagerHelper::throwLog(nullptr, QStringLiteral("warning"), sentence);
+}
+
+/** The cause, with a remedy behind it. */
+QString withRemedy(QString cause)
+{
+    while (cause.endsWith('.'))
+        cause.chop(1);
+    return PluginLoader::tr("%1; correct the plugin and start the panel again.").arg(cause);
+}
+
 void refuse(PluginRecord *record, const QString &sentence)
 {
     record->state = PluginRecord::Refused;
@@ -66,13 +82,13 @@ void PluginLoader::loadDirectory(const QString &path)
 {
     const QDir directory(path);
     if (!directory.exists())
-        qWarning("panel: the plugin directory %s does not exist", qPrintable(path));
+        errorLine() << tr("The plugin directory %1 does not exist.").arg(path);
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     for (const QFileInfo &file : files) {
         m_records.append(load(file));
         if (!m_records.last().sentence.isEmpty())
-            qInfo("panel: %s", qPrintable(m_records.last().sentence));
+            tellOperator(m_records.last().sentence);
     }
     mirror();
 }
@@ -84,7 +100,7 @@ PluginRecord PluginLoader::load(const QFileInfo &file)
         return record;
     if (m_guard.isLeftOut(record.tag.name, file)) {
         record.state = PluginRecord::LeftOut;
-        record.sentence = tr("%1 was left out because the panel went down in its %2: replace it "
+        record.sentence = tr("%1 was left out because it took the panel down (%2): replace it "
                              "with a corrected one, or try it again.")
                               .arg(file.fileName(), m_guard.fatalStep(record.tag.name));
         return record;
@@ -148,13 +164,13 @@ QStringList PluginLoader::moduleNames() const
     return names;
 }
 
-void PluginLoader::markFaulty(const QString &module, const QString &sentence)
+void PluginLoader::markFaulty(const QString &module, const QString &cause)
 {
     for (PluginRecord &record : m_records) {
         if (!record.modules.contains(module))
             continue;
         record.state = PluginRecord::Faulty;
-        record.sentence = sentence;
+        record.sentence = withRemedy(cause);
     }
     mirror();
 }

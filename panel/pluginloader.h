@@ -31,8 +31,9 @@ public:
     /** The modules that the loaded libraries offer, in the order of loading. */
     QStringList moduleNames() const;
 
-    /** Marks the plugin of that module with a sentence that says why it no longer runs. */
-    void markFaulty(const QString &module, const QString &sentence);
+    /** Marks the plugin of that module as one that no longer runs; cause is said to the operator.
+     */
+    void markFaulty(const QString &module, const QString &cause);
     /** Lets a plugin that was left out take part in the next start. */
     void tryAgain(const QString &name);
 

@@ -1,5 +1,7 @@
 #include "startguard.h"
 
+#include "panellog.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QJsonDocument>
@@ -124,8 +126,7 @@ void StartGuard::save() const
     if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(m_leftOut).toJson()) >= 0
         && file.commit())
         return;
-    qWarning("panel: %s can't be written: %s", qPrintable(m_listFile),
-             qPrintable(file.errorString()));
+    errorLine() << QStringLiteral("%1 can't be written: %2").arg(m_listFile, file.errorString());
 }
 
 } // namespace panel

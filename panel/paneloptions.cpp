@@ -1,0 +1,96 @@
+#include "paneloptions.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <cmath>
+
+namespace panel
+{
+
+namespace
+{
+
+constexpr double longestRun = 7 * 24 * 3600; // seconds
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("panel", text);
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(tr("The operator panel."));
+    parser->addHelpOption();
+    parser->addVersionOption();
+    parser->addOptions({
+        {"plugins", tr("Loads the plugins of DIR; may be given several times."), "DIR"},
+        {"runtime", tr("Works in DIR: its log, workspace and tools."), "DIR"},
+        {"settings", tr("Reads and keeps the settings in FILE."), "FILE"},
+        {"for", tr("Ends after SECONDS."), "SECONDS"},
+        {"screenshot", tr("Saves the window as PNG to FILE just before the end."), "FILE"},
+        {"page", tr("Shows the page KEY of the centre area first."), "KEY"},
+        {"fullscreen", tr("Covers the whole screen.")},
+        {"retry", tr("Lets the plugin NAME, which took the panel down, take part again."), "NAME"},
+    });
+}
+
+QString absolute(const QString &path)
+{
+    return path.isEmpty() ? path : QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+/** Nothing for what is no positive number of seconds. */
+std::optional<int> milliseconds(const QString &seconds)
+{
+    bool ok = false;
+    const double number = seconds.toDouble(&ok);
+    if (!ok || !(number > 0) || number > longestRun)
+        return std::nullopt;
+    return static_cast<int>(std::ceil(number * 1000));
+}
+
+} // namespace
+
+std::optional<PanelOptions> PanelOptions::parse(const QStringList &arguments, QString *text,
+                                                int *exitCode)
+{
+    QCommandLineParser parser;
+    addOptions(&parser);
+    const bool parsed = parser.parse(arguments);
+    *exitCode = 0;
+    if (parser.isSet("help") || parser.isSet("version")) {
+        *text = parser.isSet("help")
+            ? parser.helpText()
+            : QStringLiteral("zeplet-panel %1\n").arg(QCoreApplication::applicationVersion());
+        return std::nullopt;
+    }
+    *exitCode = 2;
+    if (!parsed || !parser.positionalArguments().isEmpty()) {
+        *text = parsed ? tr("Unknown argument \"%1\".").arg(parser.positionalArguments().first())
+                       : parser.errorText();
+        return std::nullopt;
+    }
+    PanelOptions options;
+    if (parser.isSet("for")
+        && !(options.milliseconds = ::panel::milliseconds(parser.value("for")))) {
+        *text = tr("--for needs a number of seconds, not \"%1\".").arg(parser.value("for"));
+        return std::nullopt;
+    }
+    for (const QString &directory : parser.values("plugins"))
+        options.pluginDirectories += absolute(directory);
+    options.runtimeDirectory = parser.isSet("runtime")
+        ? absolute(parser.value("runtime"))
+        : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    options.settingsFile = parser.isSet("settings")
+        ? absolute(parser.value("settings"))
+        : QDir(options.runtimeDirectory).filePath(QStringLiteral("settings.json"));
+    options.screenshotFile = absolute(parser.value("screenshot"));
+    options.page = parser.value("page");
+    options.retries = parser.values("retry");
+    options.fullScreen = parser.isSet("fullscreen");
+    return options;
+}
+
+} // namespace panel

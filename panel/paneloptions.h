@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace panel
+{
+
+/** What the command line asks for. All paths are absolute: the panel works in its runtime
+ * directory. */
+struct PanelOptions {
+    QStringList pluginDirectories; ///< empty: the installation's
+    QString runtimeDirectory;
+    QString settingsFile;
+    QString screenshotFile; ///< empty: none
+    QString page; ///< key of the centre page to show first; empty: the first page
+    QStringList retries; ///< plugins that were left out and shall take part again
+    std::optional<int> milliseconds; ///< how long to run; nothing: until it is closed
+    bool fullScreen = false;
+
+    /**
+     * Reads the command line. Where it is to end the program at once (--help, --version, an error),
+     * returns nothing and sets text to what is to be printed and exitCode to 0 or 2.
+     */
+    static std::optional<PanelOptions> parse(const QStringList &arguments, QString *text,
+                                             int *exitCode);
+};
+
+} // namespace panel

@@ -1,0 +1,172 @@
+#include "panelsession.h"
+
+#include "mainwindow.h"
+#include "panellog.h"
+#include "pluginloader.h"
+#include "robotstate.h"
+#include "startguard.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTimer>
+#include <brisa/managerhelper.h>
+#include <brisa/settingmanager.h>
+#include <brisa/thememanager.h>
+#include <kest/modulerunner.h>
+#include <ostrel/moduleobject.h>
+
+namespace panel
+{
+
+namespace
+{
+
+constexpr int FrameInterval = 33; // ms: 30 frames a second
+
+// ms. What modules make in their start may need 100 ms until it listens to the links: a link that
+// came up earlier would be news that nobody hears.
+constexpr int LinkDelay = 150;
+
+void announce(const QString &state)
+{
+    m(QStringLiteral("panel.state"))->set(nullptr, state, true);
+}
+
+/** Where an installation, and the build tree alike, keep plugins: relative to the program. */
+QString installed(const char *directory)
+{
+    return QDir(QCoreApplication::applicationDirPath())
+        .absoluteFilePath(QStringLiteral("../") + QLatin1String(directory));
+}
+
+} // namespace
+
+PanelSession::PanelSession(const PanelOptions &options, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+{
+}
+
+PanelSession::~PanelSession()
+{
+    finish();
+}
+
+bool PanelSession::start(QString *error)
+{
+    if (!enterRuntimeDirectory(error))
+        return false;
+    announce(QStringLiteral("starting"));
+    m(QStringLiteral("panel.version"))->set(nullptr, QStringLiteral(ZEPLET_VERSION), true);
+    readSettings();
+    m_robot = std::make_unique<RobotState>();
+    m_window = std::make_unique<MainWindow>(*m_robot);
+    loadPlugins();
+    startModules();
+    showWindow();
+    announce(QStringLiteral("running"));
+    infoLine() << tr("The panel is running.");
+    if (m_options.milliseconds)
+        QTimer::singleShot(*m_options.milliseconds, qApp, &QCoreApplication::quit);
+    return true;
+}
+
+/** Logs, the workspace and tools have relative paths: they belong to this directory. */
+bool PanelSession::enterRuntimeDirectory(QString *error)
+{
+    const QString path = m_options.runtimeDirectory;
+    if (QDir().mkpath(path) && QDir::setCurrent(path))
+        return true;
+    *error = tr("The runtime directory %1 can't be used: check its permissions.").arg(path);
+    return false;
+}
+
+void PanelSession::readSettings()
+{
+    brisa::ManagerHelper *const host = brisa::ManagerHelper::instance();
+    host->settingManager()->load(m_options.settingsFile);
+    brisa::ThemeManager *const theme = brisa::ThemeManager::instance();
+    theme->setTheme(host->settingManager()->getStr(QStringLiteral("theme"), theme->themeName()));
+    theme->applyToApplication();
+}
+
+void PanelSession::loadPlugins()
+{
+    m_guard = std::make_unique<StartGuard>(m_options.runtimeDirectory);
+    for (const QString &name : m_options.retries)
+        m_guard->tryAgain(name);
+    m_loader = std::make_unique<PluginLoader>(*m_guard);
+    m_loader->loadDirectory(installed(ZEPLET_PANEL_PLUGIN_DIR));
+    if (m_options.pluginDirectories.isEmpty())
+        m_loader->loadDirectory(installed(ZEPLET_PLUGIN_DIR));
+    for (const QString &directory : m_options.pluginDirectories)
+        m_loader->loadDirectory(directory);
+}
+
+/** The guard watches only these steps: what happens later is no start. */
+void PanelSession::startModules()
+{
+    m_runner = std::make_unique<kest::ModuleRunner>();
+    connect(m_runner.get(), &kest::ModuleRunner::moduleFaulty, m_loader.get(),
+            &PluginLoader::markFaulty);
+    const auto started
+        = connect(m_runner.get(), &kest::ModuleRunner::stepStarted, this,
+                  [this](const QString &name, const QString &step) { m_guard->enter(name, step); });
+    const auto finished = connect(m_runner.get(), &kest::ModuleRunner::stepFinished, this,
+                                  [this] { m_guard->leave(); });
+    m_runner->start(m_loader->moduleNames());
+    disconnect(started);
+    disconnect(finished);
+    m_runner->startFrames(FrameInterval);
+    brisa::ManagerHelper *const host = brisa::ManagerHelper::instance();
+    host->setReady(true);
+    QTimer::singleShot(LinkDelay, this, [host] { host->openLinks(); });
+}
+
+void PanelSession::showWindow()
+{
+    if (!m_options.page.isEmpty() && !m_window->showPage(m_options.page))
+        errorLine() << tr("There is no page \"%1\".").arg(m_options.page);
+    if (m_options.fullScreen)
+        m_window->showFullScreen();
+    else
+        m_window->show();
+}
+
+bool PanelSession::finish()
+{
+    if (std::exchange(m_finished, true) || !m_runner)
+        return true;
+    const bool saved = saveScreenshot();
+    announce(QStringLiteral("stopping"));
+    brisa::ManagerHelper::instance()->setReady(false);
+    m_runner.reset();
+    announce(QStringLiteral("stopped"));
+    m_window.reset();
+    brisa::ManagerHelper::shutdown();
+    infoLine() << tr("The panel has ended.");
+    return saved;
+}
+
+bool PanelSession::saveScreenshot() const
+{
+    if (m_options.screenshotFile.isEmpty())
+        return true;
+    QDir().mkpath(QFileInfo(m_options.screenshotFile).path());
+    if (m_window->grab().save(m_options.screenshotFile, "PNG"))
+        return true;
+    errorLine() << tr("The picture %1 can't be saved.").arg(m_options.screenshotFile);
+    return false;
+}
+
+MainWindow &PanelSession::window() const
+{
+    return *m_window;
+}
+
+const PluginLoader &PanelSession::loader() const
+{
+    return *m_loader;
+}
+
+} // namespace panel

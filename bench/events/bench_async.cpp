@@ -33,7 +33,7 @@ void asyncQt(benchmark::State &state)
     for (auto _ : state) {
         for (int i = 0; i < Batch; ++i) {
             QMetaObject::invokeMethod(
-                publisher, [publisher, event] { emit publisher->published(event); },
+                publisher, [publisher, copy = event] { emit publisher->published(copy); },
                 Qt::QueuedConnection);
         }
         QCoreApplication::sendPostedEvents(publisher);
@@ -50,7 +50,7 @@ void asyncQtToBus(benchmark::State &state)
     for (auto _ : state) {
         for (int i = 0; i < Batch; ++i) {
             QMetaObject::invokeMethod(
-                bus, [bus, event] { bus->publish(event); }, Qt::QueuedConnection);
+                bus, [bus, copy = event] { bus->publish(copy); }, Qt::QueuedConnection);
         }
         QCoreApplication::sendPostedEvents(bus);
     }

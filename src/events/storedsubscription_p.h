@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QMetaObject>
+#include <QSharedData>
 #include <QSharedPointer>
-#include <QVector>
 
 #include <atomic>
 #include <utility>
+#include <vector>
 
 #include "zepleteventsubscription.h"
 
@@ -14,10 +15,9 @@ namespace zeplet
 
 struct StoredSubscription;
 using StoredPointer = QSharedPointer<StoredSubscription>;
+using StoredPointers = std::vector<StoredPointer>;
 
-/// A list whose members know their place in it, so that removing one takes constant time. It is
-/// shared implicitly: who copies it keeps the state of that moment, and a change then copies it
-/// once.
+/// A list whose members know their place in it, so that removing one takes constant time.
 template <typename Pointer>
 class PlacedList
 {
@@ -25,28 +25,46 @@ public:
     /// `place` is the member in which a record keeps its index in this list.
     using Place = int StoredSubscription::*;
 
-    void append(Pointer record, Place place)
+    void append(const Pointer &record, Place place)
     {
-        (*record).*place = m_records.size();
-        m_records.append(std::move(record));
+        (*record).*place = static_cast<int>(m_records.size());
+        m_records.push_back(record);
     }
 
     /// The last record moves into the gap.
     void remove(StoredSubscription &record, Place place)
     {
-        const int last = m_records.size() - 1;
-        Pointer *records = m_records.data();
-        (*records[last]).*place = record.*place;
-        std::swap(records[record.*place], records[last]);
-        m_records.removeLast();
-        record.*place = -1;
+        const auto index = static_cast<std::size_t>(std::exchange(record.*place, -1));
+        if (index + 1 < m_records.size()) {
+            std::swap(m_records[index], m_records.back());
+            (*m_records[index]).*place = static_cast<int>(index);
+        }
+        m_records.pop_back();
     }
 
-    const QVector<Pointer> &records() const { return m_records; }
+    const std::vector<Pointer> &records() const { return m_records; }
 
 private:
-    QVector<Pointer> m_records;
+    std::vector<Pointer> m_records;
 };
+
+/// The subscribers of one type, shared between the index and the dispatches that are running.
+struct SharedSubscribers : QSharedData {
+    PlacedList<StoredPointer> list;
+};
+using SubscribersPointer = QExplicitlySharedDataPointer<SharedSubscribers>;
+
+/// The list for a change: a copy, if a dispatch still reads this one. Qt's own containers ask for
+/// sharing without acquiring, which does not order the reads of a dispatch that just ended before
+/// the change.
+inline PlacedList<StoredPointer> &writable(SubscribersPointer &subscribers)
+{
+    if (!subscribers)
+        subscribers = new SharedSubscribers;
+    else if (subscribers->ref.loadAcquire() != 1)
+        subscribers = new SharedSubscribers(*subscribers);
+    return subscribers->list;
+}
 
 /// What is known of one context object, shared by all subscriptions that were ever bound to it:
 /// also one that was removed during a dispatch, and is still due in it, must not run once the

@@ -32,10 +32,10 @@ Private::ZepletEventSystemPrivate(ZepletEventSystem *system)
 {
 }
 
-Private::Snapshot Private::subscribers(ZepletEventType type) const
+SubscribersPointer Private::snapshot(ZepletEventType type) const
 {
     QMutexLocker lock(&mutex);
-    return index().subscribers(type);
+    return index().snapshot(type);
 }
 
 bool Private::isWatched(QObject *object) const
@@ -81,7 +81,7 @@ StoredPointer Private::doUnsubscribe(const QString &id)
     return record;
 }
 
-int Private::doUnsubscribe(const Snapshot &records)
+int Private::doUnsubscribe(const StoredPointers &records)
 {
     int removed = 0;
     for (const StoredPointer &record : records)
@@ -89,16 +89,16 @@ int Private::doUnsubscribe(const Snapshot &records)
     return removed;
 }
 
-Private::Snapshot Private::takeInvalid()
+StoredPointers Private::takeInvalid()
 {
     QMutexLocker lock(&mutex);
-    const Snapshot records = index().takeInvalid();
+    StoredPointers records = index().takeInvalid();
     for (const StoredPointer &record : records)
         unbind(*record);
     return records;
 }
 
-Private::Snapshot Private::takeContext(QObject *object)
+StoredPointers Private::takeContext(QObject *object)
 {
     QMutexLocker lock(&mutex);
     const auto context = contexts.take(object);
@@ -108,19 +108,19 @@ Private::Snapshot Private::takeContext(QObject *object)
     // Subscriptions that were removed before, and are still due in a running dispatch, see it as
     // well.
     context->destroyed.store(true, std::memory_order_release);
-    Snapshot taken;
-    while (!context->subscriptions.records().isEmpty()) {
-        StoredSubscription *record = context->subscriptions.records().last();
+    StoredPointers taken;
+    while (!context->subscriptions.records().empty()) {
+        StoredSubscription *record = context->subscriptions.records().back();
         unbind(*record);
-        taken.append(index().take(record->storedId));
+        taken.push_back(index().take(record->storedId));
     }
     return taken;
 }
 
-Private::Snapshot Private::takeAll()
+StoredPointers Private::takeAll()
 {
     QMutexLocker lock(&mutex);
-    const Snapshot records = index().takeAll();
+    StoredPointers records = index().takeAll();
     for (const StoredPointer &record : records)
         unbind(*record);
     return records;
@@ -158,7 +158,7 @@ ZepletEventSystem::ZepletEventSystem()
 // does: one that is made by such an object goes in the next round.
 ZepletEventSystem::~ZepletEventSystem()
 {
-    while (!d->takeAll().isEmpty()) { }
+    while (!d->takeAll().empty()) { }
 }
 
 QString ZepletEventSystem::subscribe(ZepletEventType type, Callback callback,
@@ -232,7 +232,7 @@ void ZepletEventSystem::publish(ZepletEventType type, const QVariant &data, cons
 void ZepletEventSystem::publishAsync(const ZepletEvent &event)
 {
     QMetaObject::invokeMethod(
-        this, [this, event] { publish(event); }, Qt::QueuedConnection);
+        this, [this, copy = event] { publish(copy); }, Qt::QueuedConnection);
 }
 
 void ZepletEventSystem::publishAsync(ZepletEventType type, const QVariant &data,
@@ -243,10 +243,12 @@ void ZepletEventSystem::publishAsync(ZepletEventType type, const QVariant &data,
 
 void ZepletEventSystem::dispatchEvent(const ZepletEvent &event)
 {
-    const auto snapshot = d->subscribers(event.type);
+    const SubscribersPointer snapshot = d->snapshot(event.type);
+    if (!snapshot)
+        return;
     InvocationClock clock;
     QStringList fired;
-    for (const StoredPointer &record : snapshot) {
+    for (const StoredPointer &record : snapshot->list.records()) {
         if (!record->isCallable())
             continue;
         record->invoke(event, clock);
@@ -260,10 +262,10 @@ void ZepletEventSystem::dispatchEvent(const ZepletEvent &event)
 
 void ZepletEventSystem::removeFired(const QStringList &ids)
 {
-    Private::Snapshot dropped;
+    StoredPointers dropped;
     QMutexLocker lock(&d->mutex);
     for (const QString &id : ids)
-        dropped.append(d->doUnsubscribe(id));
+        dropped.push_back(d->doUnsubscribe(id));
 }
 
 bool ZepletEventSystem::unsubscribe(const QString &subscriptionId)
@@ -276,7 +278,7 @@ bool ZepletEventSystem::unsubscribe(const QString &subscriptionId)
 
 int ZepletEventSystem::unsubscribeByPlugin(const QString &pluginName)
 {
-    Private::Snapshot records;
+    StoredPointers records;
     QMutexLocker lock(&d->mutex);
     records = d->index().subscriptionsOf(pluginName);
     return d->doUnsubscribe(records);
@@ -284,7 +286,7 @@ int ZepletEventSystem::unsubscribeByPlugin(const QString &pluginName)
 
 int ZepletEventSystem::unsubscribeByType(ZepletEventType type)
 {
-    Private::Snapshot records;
+    StoredPointers records;
     QMutexLocker lock(&d->mutex);
     records = d->index().subscribers(type);
     return d->doUnsubscribe(records);
@@ -292,12 +294,12 @@ int ZepletEventSystem::unsubscribeByType(ZepletEventType type)
 
 int ZepletEventSystem::unsubscribeByTypeAndPlugin(const QString &pluginName, ZepletEventType type)
 {
-    Private::Snapshot records;
+    StoredPointers records;
     QMutexLocker lock(&d->mutex);
     const auto ofType = d->index().subscribers(type);
     for (const StoredPointer &record : ofType) {
         if (record->storedPlugin == pluginName)
-            records.append(record);
+            records.push_back(record);
     }
     return d->doUnsubscribe(records);
 }

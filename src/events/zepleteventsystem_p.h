@@ -19,14 +19,12 @@ namespace zeplet
 class ZepletEventSystemPrivate
 {
 public:
-    using Snapshot = ZepletSubscriptionManagerPrivate::Snapshot;
-
     explicit ZepletEventSystemPrivate(ZepletEventSystem *system);
 
     ZepletSubscriptionManagerPrivate &index() const { return *manager.d; }
 
-    /// The subscribers of that moment. Locks `mutex`.
-    Snapshot subscribers(ZepletEventType type) const;
+    /// The subscribers of that moment; null if there are none. Locks `mutex`.
+    SubscribersPointer snapshot(ZepletEventType type) const;
     /// Whether the object's destroyed() is connected: it may have cut all its connections since the
     /// last subscription. Locks `mutex`.
     bool isWatched(QObject *object) const;
@@ -38,13 +36,13 @@ public:
     StoredPointer doUnsubscribe(const QString &id);
     /// Removes those of the subscriptions that are still there; returns how many. Needs `mutex`
     /// locked.
-    int doUnsubscribe(const Snapshot &records);
+    int doUnsubscribe(const StoredPointers &records);
     /// Removes the invalid subscriptions. Locks `mutex`.
-    Snapshot takeInvalid();
+    StoredPointers takeInvalid();
     /// Ends all subscriptions of a dying object. Locks `mutex`.
-    Snapshot takeContext(QObject *object);
+    StoredPointers takeContext(QObject *object);
     /// Locks `mutex`.
-    Snapshot takeAll();
+    StoredPointers takeAll();
 
     mutable QMutex mutex;
     ZepletSubscriptionManager manager;

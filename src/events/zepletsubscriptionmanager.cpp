@@ -10,10 +10,10 @@ using Private = ZepletSubscriptionManagerPrivate;
 namespace
 {
 
-QList<QSharedPointer<ZepletEventSubscription>> toPublicList(const Private::Snapshot &records)
+QList<QSharedPointer<ZepletEventSubscription>> toPublicList(const StoredPointers &records)
 {
     QList<QSharedPointer<ZepletEventSubscription>> list;
-    list.reserve(records.size());
+    list.reserve(static_cast<int>(records.size()));
     for (const StoredPointer &record : records)
         list.append(record);
     return list;
@@ -28,7 +28,7 @@ StoredPointer Private::insert(const StoredPointer &record)
     StoredPointer replaced = std::exchange(stored, record);
     if (replaced)
         unlink(*replaced);
-    byType[record->storedType].append(record, &StoredSubscription::typePlace);
+    writable(byType[record->storedType]).append(record, &StoredSubscription::typePlace);
     byPlugin[record->storedPlugin].append(record.data(), &StoredSubscription::pluginPlace);
     return replaced;
 }
@@ -39,33 +39,33 @@ StoredPointer Private::take(const QString &id)
     return takeLocked(id);
 }
 
-Private::Snapshot Private::takeByType(ZepletEventType type)
+StoredPointers Private::takeByType(ZepletEventType type)
 {
     QMutexLocker lock(&mutex);
-    return takeLocked(byType.value(type).records());
+    return takeLocked(subscribersLocked(type));
 }
 
-Private::Snapshot Private::takeByPlugin(const QString &pluginName)
+StoredPointers Private::takeByPlugin(const QString &pluginName)
 {
     QMutexLocker lock(&mutex);
     return takeLocked(subscriptionsOfLocked(pluginName));
 }
 
-Private::Snapshot Private::takeInvalid()
+StoredPointers Private::takeInvalid()
 {
     QMutexLocker lock(&mutex);
-    Snapshot invalid;
+    StoredPointers invalid;
     for (const StoredPointer &record : qAsConst(byId)) {
         if (!record->isValid())
-            invalid.append(record);
+            invalid.push_back(record);
     }
-    return takeLocked(invalid);
+    return takeLocked(std::move(invalid));
 }
 
-Private::Snapshot Private::takeAll()
+StoredPointers Private::takeAll()
 {
     QMutexLocker lock(&mutex);
-    const Snapshot all = byId.values().toVector();
+    StoredPointers all(byId.cbegin(), byId.cend());
     byType.clear();
     byPlugin.clear();
     byId.clear();
@@ -78,14 +78,19 @@ StoredPointer Private::find(const QString &id) const
     return byId.value(id);
 }
 
-Private::Snapshot Private::subscribers(ZepletEventType type) const
+SubscribersPointer Private::snapshot(ZepletEventType type) const
 {
     QMutexLocker lock(&mutex);
-    const auto found = byType.constFind(type);
-    return found == byType.constEnd() ? Snapshot() : found->records();
+    return byType.value(type);
 }
 
-Private::Snapshot Private::subscriptionsOf(const QString &pluginName) const
+StoredPointers Private::subscribers(ZepletEventType type) const
+{
+    QMutexLocker lock(&mutex);
+    return subscribersLocked(type);
+}
+
+StoredPointers Private::subscriptionsOf(const QString &pluginName) const
 {
     QMutexLocker lock(&mutex);
     return subscriptionsOfLocked(pluginName);
@@ -99,33 +104,38 @@ StoredPointer Private::takeLocked(const QString &id)
     return record;
 }
 
-Private::Snapshot Private::takeLocked(const Snapshot &records)
+StoredPointers Private::takeLocked(StoredPointers records)
 {
     for (const StoredPointer &record : records)
         takeLocked(record->storedId);
     return records;
 }
 
-Private::Snapshot Private::subscriptionsOfLocked(const QString &pluginName) const
+StoredPointers Private::subscribersLocked(ZepletEventType type) const
 {
-    Snapshot found;
-    const auto records = byPlugin.value(pluginName).records();
-    found.reserve(records.size());
-    for (const StoredSubscription *record : records)
-        found.append(byId.value(record->storedId));
+    const auto found = byType.constFind(type);
+    return found == byType.constEnd() ? StoredPointers() : (*found)->list.records();
+}
+
+StoredPointers Private::subscriptionsOfLocked(const QString &pluginName) const
+{
+    StoredPointers found;
+    const auto ofPlugin = byPlugin.value(pluginName);
+    for (const StoredSubscription *record : ofPlugin.records())
+        found.push_back(byId.value(record->storedId));
     return found;
 }
 
 void Private::unlink(StoredSubscription &record)
 {
     const auto ofType = byType.find(record.storedType);
-    ofType->remove(record, &StoredSubscription::typePlace);
-    if (ofType->records().isEmpty())
+    writable(*ofType).remove(record, &StoredSubscription::typePlace);
+    if ((*ofType)->list.records().empty())
         byType.erase(ofType);
 
     const auto ofPlugin = byPlugin.find(record.storedPlugin);
     ofPlugin->remove(record, &StoredSubscription::pluginPlace);
-    if (ofPlugin->records().isEmpty())
+    if (ofPlugin->records().empty())
         byPlugin.erase(ofPlugin);
 }
 
@@ -154,17 +164,17 @@ bool ZepletSubscriptionManager::removeSubscription(const QString &id)
 
 int ZepletSubscriptionManager::removeSubscriptionsByType(ZepletEventType type)
 {
-    return d->takeByType(type).size();
+    return static_cast<int>(d->takeByType(type).size());
 }
 
 int ZepletSubscriptionManager::removeSubscriptionsByPlugin(const QString &pluginName)
 {
-    return d->takeByPlugin(pluginName).size();
+    return static_cast<int>(d->takeByPlugin(pluginName).size());
 }
 
 int ZepletSubscriptionManager::cleanupInvalidSubscriptions()
 {
-    return d->takeInvalid().size();
+    return static_cast<int>(d->takeInvalid().size());
 }
 
 QSharedPointer<ZepletEventSubscription>
@@ -209,21 +219,23 @@ ZepletSubscriptionManager::getSubscriptionsByPlugin(const QString &pluginName) c
 int ZepletSubscriptionManager::subscriptionCountByType(ZepletEventType type) const
 {
     QMutexLocker lock(&d->mutex);
-    return d->byType.value(type).records().size();
+    const auto found = d->byType.constFind(type);
+    return found == d->byType.constEnd() ? 0 : static_cast<int>((*found)->list.records().size());
 }
 
 int ZepletSubscriptionManager::subscriptionCountByPlugin(const QString &pluginName) const
 {
     QMutexLocker lock(&d->mutex);
-    return d->byPlugin.value(pluginName).records().size();
+    const auto found = d->byPlugin.constFind(pluginName);
+    return found == d->byPlugin.constEnd() ? 0 : static_cast<int>(found->records().size());
 }
 
 QStringList ZepletSubscriptionManager::subscriptionIds(const QString &pluginName) const
 {
     QMutexLocker lock(&d->mutex);
     QStringList ids;
-    const auto records = d->byPlugin.value(pluginName).records();
-    for (const StoredSubscription *record : records)
+    const auto ofPlugin = d->byPlugin.value(pluginName);
+    for (const StoredSubscription *record : ofPlugin.records())
         ids.append(record->storedId);
     return ids;
 }

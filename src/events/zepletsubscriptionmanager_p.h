@@ -14,31 +14,31 @@ namespace zeplet
 class ZepletSubscriptionManagerPrivate
 {
 public:
-    using Snapshot = QVector<StoredPointer>;
-
     /// Returns the record with the same id that it replaced, or null.
     StoredPointer insert(const StoredPointer &record);
     /// Null for an unknown id.
     StoredPointer take(const QString &id);
-    Snapshot takeByType(ZepletEventType type);
-    Snapshot takeByPlugin(const QString &pluginName);
-    Snapshot takeInvalid();
-    Snapshot takeAll();
+    StoredPointers takeByType(ZepletEventType type);
+    StoredPointers takeByPlugin(const QString &pluginName);
+    StoredPointers takeInvalid();
+    StoredPointers takeAll();
 
     StoredPointer find(const QString &id) const;
-    /// The subscribers of that moment, without copying them.
-    Snapshot subscribers(ZepletEventType type) const;
-    Snapshot subscriptionsOf(const QString &pluginName) const;
+    /// The subscribers of that moment, not to be changed; null if there are none.
+    SubscribersPointer snapshot(ZepletEventType type) const;
+    StoredPointers subscribers(ZepletEventType type) const;
+    StoredPointers subscriptionsOf(const QString &pluginName) const;
 
     mutable QMutex mutex;
     QHash<QString, StoredPointer> byId;
-    QHash<ZepletEventType, PlacedList<StoredPointer>> byType;
+    QHash<ZepletEventType, SubscribersPointer> byType;
     QHash<QString, PlacedList<StoredSubscription *>> byPlugin;
 
 private:
     StoredPointer takeLocked(const QString &id);
-    Snapshot takeLocked(const Snapshot &records);
-    Snapshot subscriptionsOfLocked(const QString &pluginName) const;
+    StoredPointers takeLocked(StoredPointers records);
+    StoredPointers subscribersLocked(ZepletEventType type) const;
+    StoredPointers subscriptionsOfLocked(const QString &pluginName) const;
     void unlink(StoredSubscription &record);
 };
 

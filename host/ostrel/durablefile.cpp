@@ -55,7 +55,8 @@ bool makeDirectory(const QString &path, QString *error)
     const QString above = QFileInfo(path).path();
     if (above == path || !makeDirectory(above, error))
         return false;
-    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0 && errno != EEXIST) {
+    const bool made = ::mkdir(QFile::encodeName(path).constData(), 0777) == 0;
+    if (!made && !(errno == EEXIST && QFileInfo(path).isDir())) {
         *error = systemError("can't make directory", path);
         return false;
     }

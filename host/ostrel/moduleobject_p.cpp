@@ -29,7 +29,7 @@ ModuleObjectPrivate::ModuleObjectPrivate(ModuleObject *object, ModuleObjectPriva
 
 ModuleObjectPrivate::~ModuleObjectPrivate()
 {
-    forgetKeys();
+    forgetKey();
     deleteHandlesBelow();
     if (node)
         node->handle = nullptr;
@@ -134,7 +134,7 @@ void ModuleObjectPrivate::letGo(bool element)
 
 void ModuleObjectPrivate::retire()
 {
-    forgetKeys();
+    forgetKey();
     for (ModuleObjectPrivate *handle : std::exchange(placeholders, {}))
         handle->retire();
     parent = nullptr;
@@ -223,34 +223,26 @@ ModuleObject &ModuleObjectPrivate::store()
     return *root;
 }
 
-ModuleObject *ModuleObjectPrivate::cached(const QString &key) const
-{
-    if (!cache)
-        return nullptr;
-    const auto known = cache->find(key);
-    return known == cache->end() ? nullptr : known->second;
-}
-
-void ModuleObjectPrivate::remember(const QString &key, ModuleObjectPrivate *handle)
+void ModuleObjectPrivate::remember(const QString &path, ModuleObjectPrivate *handle)
 {
     if (!cache)
         return;
-    cache->emplace(key, handle->q);
-    handle->isCached = true;
+    handle->key.reset(Name(QStringView(path)).id());
+    if (cache->size() <= handle->key.id())
+        cache->resize(NameTable::instance().end());
+    (*cache)[handle->key.id()] = handle->q;
 }
 
-void ModuleObjectPrivate::forgetKeys()
+void ModuleObjectPrivate::forgetKey()
 {
-    if (!isCached)
+    if (!key.id())
         return;
-    isCached = false;
-    ModuleObjectPrivate *root = this;
+    const ModuleObjectPrivate *root = this;
     while (root->parent)
         root = root->parent;
-    if (!root->cache)
-        return;
-    for (auto entry = root->cache->begin(); entry != root->cache->end();)
-        entry = entry->second == q ? root->cache->erase(entry) : std::next(entry);
+    if (root->cache)
+        (*root->cache)[key.id()] = nullptr;
+    key.reset();
 }
 
 ChangeReport::ChangeReport(ModuleObjectPrivate *from, bool notify)

@@ -5,18 +5,13 @@
 
 #include <QPointer>
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
 namespace ostrel
 {
 
-struct KeyHash {
-    size_t operator()(const QString &key) const { return hashText(key); }
-};
-
-/** Handles of the global store by whole key, so that the usual lookup is one probe. */
-using KeyCache = std::unordered_map<QString, ModuleObject *, KeyHash>;
+/** Handles of the global store by the number of their whole key: the usual lookup is one probe. */
+using KeyCache = std::vector<ModuleObject *>;
 
 /**
  * What a handle knows. A handle stands for a place of a tree: attached to the node there, or, as a
@@ -55,8 +50,14 @@ public:
      */
     ModuleObjectPrivate *moveBelow(ModuleObjectPrivate *above);
 
-    ModuleObject *cached(const QString &key) const;
-    void remember(const QString &key, ModuleObjectPrivate *handle);
+    ModuleObject *cached(const QString &path) const
+    {
+        if (!cache)
+            return nullptr;
+        const NameId id = NameTable::instance().find(path);
+        return id < cache->size() ? (*cache)[id] : nullptr;
+    }
+    void remember(const QString &path, ModuleObjectPrivate *handle);
 
     ModuleObject *const q;
     ModuleObjectPrivate *parent;
@@ -65,7 +66,7 @@ public:
     Node own; // the root node of a tree
     std::vector<ModuleObjectPrivate *> placeholders;
     std::unique_ptr<KeyCache> cache; // of the global store's root
-    bool isCached = false;
+    Name key; // under which the cache has this handle
 
 private:
     void attachTo(Node &found);
@@ -73,7 +74,7 @@ private:
     ModuleObjectPrivate *placeholder(QStringView step);
     void dropPlaceholder(ModuleObjectPrivate *handle);
     void retire();
-    void forgetKeys();
+    void forgetKey();
     void deleteHandlesBelow();
 };
 

@@ -5,35 +5,60 @@
 namespace ostrel
 {
 
+namespace
+{
+quint64 eightBytes(const char *from)
+{
+    quint64 bytes = 0;
+    std::memcpy(&bytes, from, sizeof bytes);
+    return bytes;
+}
+
+quint64 mix(quint64 hash, quint64 bytes)
+{
+    hash = (hash ^ bytes) * 0xff51afd7ed558ccdu;
+    return hash ^ (hash >> 32);
+}
+
+bool isEqual(const QString &left, QStringView right)
+{
+    const auto bytes = size_t(right.size()) * sizeof(QChar);
+    return left.size() == right.size()
+        && (!bytes || !std::memcmp(left.constData(), right.data(), bytes));
+}
+
+// Two lanes of eight bytes each, which the processor mixes side by side; the last step overlaps the
+// one before instead of counting single characters.
 size_t hashText(QStringView text)
 {
-    const auto *at = text.utf16();
-    auto left = size_t(text.size());
-    quint64 hash = 0x9e3779b97f4a7c15u ^ left;
-    while (left >= 4) {
-        quint64 chunk = 0;
-        std::memcpy(&chunk, at, sizeof chunk);
-        hash = (hash ^ chunk) * 0xff51afd7ed558ccdu;
-        hash ^= hash >> 32;
-        at += 4;
-        left -= 4;
+    const auto *at = reinterpret_cast<const char *>(text.data());
+    const auto bytes = size_t(text.size()) * sizeof(QChar);
+    const char *const end = at + bytes;
+    quint64 left = 0x9e3779b97f4a7c15u ^ bytes;
+    quint64 right = left;
+    if (!bytes)
+        return size_t(left);
+    if (bytes < 8) {
+        quint64 rest = 0;
+        std::memcpy(&rest, at, bytes);
+        return size_t(mix(left, rest));
     }
-    quint64 rest = 0;
-    std::memcpy(&rest, at, left * sizeof *at);
-    hash = (hash ^ rest) * 0xff51afd7ed558ccdu;
-    return size_t(hash ^ (hash >> 29));
+    for (; end - at > 16; at += 16) {
+        left = mix(left, eightBytes(at));
+        right = mix(right, eightBytes(at + 8));
+    }
+    left = mix(left, eightBytes(end - 8));
+    right = end - at > 8 ? mix(right, eightBytes(at)) : right;
+    return size_t(mix(left, right));
 }
+} // namespace
+
+NameTable *NameTable::s_instance = nullptr;
 
 NameTable::NameTable()
     : m_entries(1)
     , m_buckets(256)
 {
-}
-
-NameTable &NameTable::instance()
-{
-    static auto *table = new NameTable;
-    return *table;
 }
 
 NameId NameTable::find(QStringView text) const
@@ -45,7 +70,7 @@ NameId NameTable::find(QStringView text, size_t hash) const
 {
     for (NameId id = m_buckets[hash & (m_buckets.size() - 1)]; id; id = m_entries[id].next) {
         const Entry &entry = m_entries[id];
-        if (entry.hash == hash && QStringView(entry.text) == text)
+        if (entry.hash == hash && isEqual(entry.text, text))
             return id;
     }
     return 0;

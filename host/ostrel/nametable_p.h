@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <utility>
 #include <vector>
 
 namespace ostrel
@@ -10,18 +11,21 @@ namespace ostrel
 /** A shared name: 0 is "no name of its own", every other number is an entry of the NameTable. */
 using NameId = quint32;
 
-/** Mixes four characters a step; child names and keys are short. */
-size_t hashText(QStringView text);
-
 /**
- * The child names of all trees of the process, each kept once: ten thousand records of the same
- * shape share theirs, and comparing two names compares two numbers. Counted by reference. GUI
- * thread. Never destroyed: trees with static storage may outlive any order of destruction.
+ * The child names and the whole keys of all trees of the process, each kept once: ten thousand
+ * records of the same shape share theirs, and comparing two names compares two numbers. Counted by
+ * reference. GUI thread. Never destroyed: trees with static storage may outlive any order of
+ * destruction.
  */
 class NameTable
 {
 public:
-    static NameTable &instance();
+    static NameTable &instance()
+    {
+        if (!s_instance)
+            s_instance = new NameTable;
+        return *s_instance;
+    }
 
     /** The name's number, 0 where nobody uses that name. */
     NameId find(QStringView text) const;
@@ -51,6 +55,7 @@ private:
     NameId freshEntry();
     void grow();
 
+    static NameTable *s_instance;
     std::vector<Entry> m_entries;
     std::vector<NameId> m_buckets;
     std::vector<NameId> m_free;
@@ -73,6 +78,11 @@ public:
     ~Name() { NameTable::instance().release(m_id); }
     Q_DISABLE_COPY(Name)
 
+    void reset(NameId id = 0)
+    {
+        NameTable::instance().acquire(id);
+        NameTable::instance().release(std::exchange(m_id, id));
+    }
     NameId id() const { return m_id; }
     const QString &text() const { return NameTable::instance().text(m_id); }
 

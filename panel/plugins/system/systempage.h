@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QWidget>
+
+class QGridLayout;
+class QLabel;
+class QVBoxLayout;
+
+/** The plugins with their state, the versions, and the bus's statistics. */
+class SystemPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SystemPage(QWidget *parent = nullptr);
+
+    /** Shows what changed since the last call; cheap where nothing did. */
+    void refresh();
+
+Q_SIGNALS:
+    void tryAgain(const QString &name);
+
+private:
+    QWidget *makeCard(const QString &title, QGridLayout **grid);
+    QWidget *makeVersions();
+    QWidget *makeStatistics();
+    void refreshStatistics();
+    void refreshPlugins();
+    void clearRows();
+
+    QVBoxLayout *m_rows;
+    QWidget *m_rowArea;
+    QLabel *m_published = nullptr;
+    QLabel *m_handled = nullptr;
+    QLabel *m_subscriptions = nullptr;
+    QJsonArray m_shown;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+
+/** Fixture libraries, and copies of them with patched bytes. */
+namespace pluginfiles
+{
+
+inline QString path(const QString &fixture)
+{
+    return QStringLiteral(ZEPLET_FIXTURE_PLUGIN_DIR "/%1.so").arg(fixture);
+}
+
+inline QByteArray bytes(const QString &fixture)
+{
+    QFile file(path(fixture));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** The fixture with the first occurrence of a text replaced by another one of the same length. */
+inline QByteArray patched(const QString &fixture, const QByteArray &from, const QByteArray &to)
+{
+    QByteArray content = bytes(fixture);
+    const int at = content.indexOf(from);
+    Q_ASSERT(at >= 0 && from.size() == to.size());
+    return content.replace(at, from.size(), to);
+}
+
+inline void write(const QString &directory, const QString &name, const QByteArray &content)
+{
+    QFile file(QDir(directory).filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("%s can't be written", qPrintable(file.fileName()));
+}
+
+inline void copy(const QString &directory, const QString &fixture, const QString &name = QString())
+{
+    write(directory, (name.isEmpty() ? fixture : name) + QStringLiteral(".so"), bytes(fixture));
+}
+
+} // namespace pluginfiles

@@ -1,0 +1,141 @@
+#include "pluginfiles.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+#include <memory>
+
+/** The program as a person starts it: exit codes, files it leaves, a plugin that kills it. */
+class TestPanelProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(plugins()));
+    }
+
+    void endsByItself()
+    {
+        pluginfiles::copy(plugins(), "sound");
+        QCOMPARE(run({"--for", "1", "--screenshot", "pictures/panel.png"}), 0);
+        const QImage picture(m_directory->filePath("pictures/panel.png"));
+        QCOMPARE(picture.size(), QSize(1280, 800));
+        QVERIFY(!QDir(m_directory->filePath("run/log")).entryList({"zeplet_*.log"}).isEmpty());
+        QCOMPARE(QFileInfo(m_directory->filePath("run/starting")).size(), 0);
+    }
+
+    void endsOnSignal()
+    {
+        QProcess panel;
+        start(&panel, {});
+        QTRY_VERIFY(logText().contains("The panel is running."));
+        kill(pid_t(panel.processId()), SIGTERM);
+        QVERIFY(panel.waitForFinished());
+        QCOMPARE(panel.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(panel.exitCode(), 0);
+        QVERIFY(logText().contains("The panel has ended."));
+    }
+
+    void killerIsLeftOut_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::newRow("crasher") << "init";
+        QTest::newRow("throwingload") << "loading";
+    }
+
+    void killerIsLeftOut()
+    {
+        QFETCH(QString, step);
+        const QString plugin = QTest::currentDataTag();
+        pluginfiles::copy(plugins(), plugin);
+        pluginfiles::copy(plugins(), "sound");
+        QCOMPARE(run({"--for", "1"}), -1);
+        QCOMPARE(run({"--for", "0.1"}), 0);
+        const QString sentence = plugin
+            + QStringLiteral(".so was left out because it took the panel down (%1): ").arg(step);
+        QVERIFY(logText().contains(sentence));
+        QCOMPARE(run({"--for", "0.1"}), 0); // and stays left out
+        QCOMPARE(run({"--for", "0.1", "--retry", plugin}), -1);
+    }
+
+    void correctedPluginTakesPartAgain()
+    {
+        pluginfiles::copy(plugins(), "crasher");
+        QCOMPARE(run({"--for", "1"}), -1);
+        qputenv("CRASHER_CORRECTED", "1");
+        const auto corrected = qScopeGuard([] { qunsetenv("CRASHER_CORRECTED"); });
+        QCOMPARE(run({"--for", "0.1", "--retry", "crasher"}), 0);
+        QVERIFY(logText().contains("<zeplet> 'crasher' init."));
+        QVERIFY(!logText().contains("crasher.so was left out"));
+    }
+
+    void wrongUse_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("unknown option") << QStringList("--nonsense") << 2 << "nonsense";
+        QTest::newRow("runtime is a file")
+            << QStringList {"--runtime", "/proc/version"} << 1 << "/proc/version can't be used";
+        QTest::newRow("picture can't be saved")
+            << QStringList {"--for", "0.1", "--screenshot", "/proc/x.png"} << 1 << "/proc/x.png";
+    }
+
+    void wrongUse()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QString, text);
+        QCOMPARE(run(arguments), code);
+        QVERIFY2(m_output.contains(text), qPrintable(m_output));
+    }
+
+private:
+    QString plugins() const { return m_directory->filePath("plugins"); }
+
+    void start(QProcess *panel, const QStringList &arguments)
+    {
+        QStringList all {"--plugins", plugins()};
+        if (!arguments.contains("--runtime"))
+            all += {"--runtime", "run"};
+        panel->setWorkingDirectory(m_directory->path());
+        panel->setProcessChannelMode(QProcess::MergedChannels);
+        panel->start(ZEPLET_PANEL, all + arguments);
+        QVERIFY(panel->waitForStarted());
+    }
+
+    /** The exit code; -1 where the program was killed. */
+    int run(const QStringList &arguments)
+    {
+        QProcess panel;
+        start(&panel, arguments);
+        panel.waitForFinished();
+        m_output = QString::fromUtf8(panel.readAll());
+        return panel.exitStatus() == QProcess::NormalExit ? panel.exitCode() : -1;
+    }
+
+    QString logText() const
+    {
+        QString text;
+        const QDir log(m_directory->filePath("run/log"));
+        for (const QString &name : log.entryList(QDir::Files)) {
+            QFile file(log.filePath(name));
+            if (file.open(QIODevice::ReadOnly))
+                text += QString::fromUtf8(file.readAll());
+        }
+        return text;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    QString m_output;
+};
+
+QTEST_GUILESS_MAIN(TestPanelProgram)
+#include "tst_panelprogram.moc"

@@ -1,6 +1,6 @@
 #include "panellog.h"
 
-#include <lineheader.h>
+#include <QDateTime>
 
 namespace panel
 {
@@ -8,23 +8,26 @@ namespace panel
 namespace
 {
 
-ostrel::QFLog panelLine(logbase::Level level)
+/** A line as all of this system's logs have it: "[E|05/24 07:08:09.123]" and the text. */
+ostrel::QFLog panelLine(const char *colour, char level)
 {
-    const logbase::LineHeader header = logbase::lineHeader(level);
-    return ostrel::QFLog(header.colour, header.prefix, QString(), QStringLiteral("./log/panel"),
-                         QStringLiteral("log"));
+    const QString time
+        = QDateTime::currentDateTime().toString(QStringLiteral("MM/dd hh:mm:ss.zzz"));
+    return ostrel::QFLog(QLatin1String(colour),
+                         QStringLiteral("[%1|%2]").arg(QLatin1Char(level)).arg(time), QString(),
+                         QStringLiteral("./log/panel"), QStringLiteral("log"));
 }
 
 } // namespace
 
 ostrel::QFLog errorLine()
 {
-    return panelLine(logbase::Level::Error);
+    return panelLine("\033[31m", 'E');
 }
 
 ostrel::QFLog infoLine()
 {
-    return panelLine(logbase::Level::Information);
+    return panelLine("\033[36m", 'I');
 }
 
 } // namespace panel

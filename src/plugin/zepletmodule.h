@@ -7,6 +7,7 @@
 #include <kest/bmodule.h>
 
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -73,7 +74,7 @@ private:
     void registerNavigationPage();
     void releaseHeld();
 
-    PluginBase *m_plugin = nullptr;
+    QPointer<PluginBase> m_plugin; ///< a child; null where there is none, or none any more
     PluginSettingPage *m_settingPage = nullptr;
     QString m_pluginName;
     bool m_modelWindowShown = false;

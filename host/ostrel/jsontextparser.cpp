@@ -96,6 +96,17 @@ private:
         NameId id = 0;
     };
 
+    struct PlainText {
+        const char *end;
+        size_t hash;
+        bool closed; // by its quote: there is no escape
+    };
+    struct KnownText {
+        const char *bytes = nullptr;
+        size_t length = 0;
+        QString text;
+    };
+
     bool parseValue(int slot, int level);
     bool parseObject(int slot, int level);
     bool parseMember(int level);
@@ -105,14 +116,23 @@ private:
     bool skipDigits();
     bool parseInteger(const char *from, int slot);
     bool parseDouble(const char *from, int slot);
+    bool parseText();
     bool parseString();
     bool parseEscape();
     bool parseHex();
     bool parseName(NameId *name);
+    PlainText scanPlain(const char *from) const;
     void dropDuplicates(int from);
     bool decode(const char *from);
     void skipBlanks()
     {
+        // Indented text consists of blanks for the better part.
+        constexpr char indent[] = "        ";
+        constexpr int step = sizeof indent - 1;
+        if (m_at != m_end && *m_at == '\n')
+            ++m_at;
+        while (m_end - m_at >= step && !std::memcmp(m_at, indent, step))
+            m_at += step;
         while (m_at != m_end && (*m_at == ' ' || *m_at == '\n' || *m_at == '\r' || *m_at == '\t'))
             ++m_at;
     }
@@ -136,6 +156,7 @@ private:
     NodeStack m_stack;
     QString m_string; // the last string read
     std::vector<KnownName> m_knownNames = std::vector<KnownName>(256);
+    std::vector<KnownText> m_knownTexts = std::vector<KnownText>(256);
     std::vector<int> m_lastObject; // by name: the object that had it last
     int m_objects = 0;
 };
@@ -166,7 +187,7 @@ bool Parser::parseValue(int slot, int level)
     case '[':
         return parseList(slot, level + 1);
     case '"':
-        if (!parseString())
+        if (!parseText())
             return false;
         m_stack[slot].setString(m_string);
         return true;
@@ -328,6 +349,29 @@ bool Parser::parseInteger(const char *from, int slot)
     return true;
 }
 
+// Short texts repeat as names do (a tool, a task, a word for a flag): equal ones share their
+// memory.
+bool Parser::parseText()
+{
+    constexpr std::ptrdiff_t longest = 64;
+    const char *const from = m_at + 1;
+    const PlainText plain = scanPlain(from);
+    KnownText &known = m_knownTexts[plain.hash % m_knownTexts.size()];
+    const bool isShort = plain.closed && plain.end - from <= longest;
+    const auto length = size_t(plain.end - from);
+    if (isShort && known.bytes && known.length == length
+        && !std::memcmp(known.bytes, from, length)) {
+        m_string = known.text;
+        m_at = plain.end + 1;
+        return true;
+    }
+    if (!parseString())
+        return false;
+    if (isShort)
+        known = {from, length, m_string};
+    return true;
+}
+
 // Reads a string, from its quote to behind the other, into m_string.
 bool Parser::parseString()
 {
@@ -403,28 +447,35 @@ bool Parser::parseName(NameId *name)
     if (m_at == m_end || *m_at != '"')
         return fail("a member name in quotes should be here");
     const char *const from = m_at + 1;
-    const char *to = from;
-    size_t hash = 0;
-    while (to != m_end && *to != '"' && *to != '\\' && uchar(*to) >= 0x20)
-        hash = hash * 31 + uchar(*to++);
-    KnownName &known = m_knownNames[hash % m_knownNames.size()];
-    const auto length = size_t(to - from);
-    const bool plain = to != m_end && *to == '"';
-    if (plain && known.id && known.length == length && !std::memcmp(known.text, from, length)) {
+    const PlainText plain = scanPlain(from);
+    KnownName &known = m_knownNames[plain.hash % m_knownNames.size()];
+    const auto length = size_t(plain.end - from);
+    if (plain.closed && known.id && known.length == length
+        && !std::memcmp(known.text, from, length)) {
         NameTable::instance().acquire(known.id);
-        m_at = to + 1;
+        m_at = plain.end + 1;
         *name = known.id;
         return true;
     }
     if (!parseString())
         return false;
     *name = NameTable::instance().acquire(m_string);
-    if (!plain)
+    if (!plain.closed)
         return true;
     NameTable::instance().acquire(*name);
     NameTable::instance().release(known.id);
     known = {from, length, *name};
     return true;
+}
+
+// The part of a string up to the first escape, with a hash of its bytes.
+Parser::PlainText Parser::scanPlain(const char *from) const
+{
+    const char *to = from;
+    size_t hash = 0;
+    while (to != m_end && *to != '"' && *to != '\\' && uchar(*to) >= 0x20)
+        hash = hash * 31 + uchar(*to++);
+    return {to, hash, to != m_end && *to == '"'};
 }
 
 QString Parser::error() const

@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <QStringList>
 #include <sys/file.h>
+#include <unistd.h>
 
 namespace panel
 {
@@ -49,7 +50,8 @@ StartGuard::StartGuard(const QString &runtimeDirectory)
 
 StartGuard::~StartGuard()
 {
-    leave();
+    if (m_active)
+        m_starting.resize(0);
 }
 
 bool StartGuard::isActive() const
@@ -66,8 +68,9 @@ bool StartGuard::lock()
 
 void StartGuard::evaluateLastStart()
 {
-    const QStringList entry = QString::fromUtf8(m_starting.read(maximumEntrySize)).split('\n');
-    leave();
+    const QByteArray content = m_starting.read(maximumEntrySize);
+    const QStringList entry = QString::fromUtf8(content.left(content.indexOf('\0'))).split('\n');
+    m_starting.resize(0);
     if (entry.size() < 3)
         return;
     // A path may hold line breaks itself.
@@ -85,15 +88,22 @@ void StartGuard::enter(const QString &name, const QString &step, const QString &
     if (!m_active || !m_libraries.contains(name))
         return;
     const QStringList entry {name, step, m_libraries.value(name)};
-    m_starting.resize(0);
-    m_starting.seek(0);
-    m_starting.write(entry.join('\n').toUtf8());
+    write(entry.join('\n').toUtf8());
 }
 
 void StartGuard::leave()
 {
     if (m_active)
-        m_starting.resize(0);
+        write(QByteArray());
+}
+
+/** One system call, because there are several steps of every plugin: what a longer entry leaves
+ *  behind the closing zero does not count. */
+void StartGuard::write(const QByteArray &entry)
+{
+    const auto size = static_cast<size_t>(entry.size()) + 1;
+    if (::pwrite(m_starting.handle(), entry.constData(), size, 0) < 0)
+        errorLine() << QStringLiteral("%1 can't be written.").arg(m_starting.fileName());
 }
 
 bool StartGuard::isLeftOut(const QString &name, const QFileInfo &library) const

@@ -13,7 +13,7 @@ namespace panel
  * Finds the plugin that takes the panel down while it starts, and keeps it out of the next start.
  *
  * Before each step of a plugin's start its name goes into the file "starting" of the runtime
- * directory; after the start the file is emptied. A panel that finds a name there died in that
+ * directory; between steps there is none. A panel that finds a name there died in that
  * step: it enters the plugin into "left-out.json", which holds until the plugin's file changes or
  * someone asks to try it again. A step costs one write and no sync: what the process wrote
  * survives its death. A second panel in the same runtime directory neither reads nor writes there.
@@ -44,6 +44,7 @@ public:
 
 private:
     bool lock();
+    void write(const QByteArray &entry);
     void evaluateLastStart();
     void save() const;
 

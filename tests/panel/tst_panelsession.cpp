@@ -42,7 +42,7 @@ private Q_SLOTS:
         pluginfiles::copy(m_directory.filePath("plugins"), "crasher");
         QVERIFY(QDir().mkpath(options.runtimeDirectory));
         pluginfiles::write(options.runtimeDirectory, "starting",
-                           "crasher\ninit\n" + crasher.toUtf8());
+                           "crasher\ninit\n" + crasher.toUtf8() + '\0');
         m_session = std::make_unique<panel::PanelSession>(options);
         QString error;
         QVERIFY2(m_session->start(&error), qPrintable(error));

@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <memory>
 
 namespace qo
 {
@@ -40,6 +41,20 @@ NavigationEntry entryFromJson(const QJsonObject &json)
             json.value(QLatin1String("nav")).toString()};
 }
 
+// At the end, where nearly all go, without touching the others.
+void insertEntry(QObject *origin, ostrel::ModuleObject *list, int at, const QJsonObject &entry)
+{
+    if (at == list->childCount()) {
+        auto node = std::make_unique<ostrel::ModuleObject>();
+        node->importFromJson(nullptr, entry, true, true, false);
+        list->append(origin, std::move(node));
+        return;
+    }
+    QJsonArray pages = list->exportToJson(true).toArray();
+    pages.insert(at, entry);
+    list->importFromJson(origin, pages, true, true, true);
+}
+
 } // namespace
 
 // Lives to the end of the process, like the store that it watches.
@@ -54,10 +69,10 @@ ostrel::ModuleObject *NavigationTree::addPage(QObject *module, const QString &ti
 {
     const QString id = ostrel::ModuleObject::generateId();
     ostrel::ModuleObject *const list = pageList(parent);
-    QJsonArray pages = list->exportToJson(true).toArray();
-    const int at = index < 0 ? pages.size() : qMin(index, pages.size());
-    pages.insert(at, QJsonObject {{"id", id}, {"title", title}, {"icon", icon}, {"nav", ""}});
-    list->importFromJson(module, pages, true, true, true);
+    const QJsonObject entry {{"id", id}, {"title", title}, {"icon", icon}, {"nav", ""}};
+    const int count = list->childCount();
+    const int at = index < 0 ? count : qMin(index, count);
+    insertEntry(module, list, at, entry);
     watchGroup(parent);
     if (module) {
         m_owned.insert(module, {parent, id});

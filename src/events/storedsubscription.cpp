@@ -3,6 +3,12 @@
 namespace zeplet
 {
 
+const QDateTime &InvocationClock::startOfTime()
+{
+    static const QDateTime start = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+    return start;
+}
+
 StoredSubscription::StoredSubscription(const ZepletEventSubscription &subscription)
     : ZepletEventSubscription(subscription)
     , storedId(id)

@@ -86,14 +86,17 @@ public:
         const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
         if (milliseconds != m_milliseconds) {
             m_milliseconds = milliseconds;
-            m_time = QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+            m_time.setMSecsSinceEpoch(milliseconds);
         }
         return m_time;
     }
 
 private:
+    // Copied, because a new one in UTC costs several times as much.
+    static const QDateTime &startOfTime();
+
     qint64 m_milliseconds = -1;
-    QDateTime m_time;
+    QDateTime m_time = startOfTime();
 };
 
 /// A subscription in the manager, with its places in all containers.

@@ -18,9 +18,7 @@ ZepletEventHandlerWithContext::~ZepletEventHandlerWithContext() = default;
 
 void ZepletEventHandlerWithContext::handleEvent(const ZepletEvent &event)
 {
-    if (!isValid())
-        return;
-    if (m_callback)
+    if (m_context && m_callback)
         m_callback(event);
 }
 

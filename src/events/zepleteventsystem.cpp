@@ -15,13 +15,8 @@ using Private = ZepletEventSystemPrivate;
 namespace
 {
 
-ZepletEventSystem *s_instance = nullptr;
-
-QMutex &creationMutex()
-{
-    static QMutex creation;
-    return creation;
-}
+// Atomic, so that the threads that publish do not queue for the mutex of its creation.
+std::atomic<ZepletEventSystem *> s_instance {nullptr};
 
 constexpr quint32 LastCustomType = 0xFFFF;
 
@@ -128,7 +123,11 @@ StoredPointers Private::takeAll()
 
 ZepletEventSystem *ZepletEventSystem::instance()
 {
-    QMutexLocker lock(&creationMutex());
+    if (ZepletEventSystem *existing = existingInstance())
+        return existing;
+
+    static QMutex creation;
+    QMutexLocker lock(&creation);
     if (!s_instance)
         s_instance = new ZepletEventSystem;
     return s_instance;
@@ -136,13 +135,12 @@ ZepletEventSystem *ZepletEventSystem::instance()
 
 ZepletEventSystem *ZepletEventSystem::existingInstance()
 {
-    QMutexLocker lock(&creationMutex());
-    return s_instance;
+    return s_instance.load(std::memory_order_acquire);
 }
 
 void ZepletEventSystem::destroyInstance()
 {
-    delete s_instance;
+    delete s_instance.load();
     s_instance = nullptr;
 }
 
@@ -219,7 +217,7 @@ void ZepletEventSystem::onContextDestroyed(QObject *object)
 
 void ZepletEventSystem::publish(const ZepletEvent &event)
 {
-    d->totalEventsPublished.fetch_add(1, std::memory_order_relaxed);
+    d->totalEventsPublished.shard().fetch_add(1, std::memory_order_relaxed);
     emit eventPublished(event);
     dispatchEvent(event);
 }
@@ -246,13 +244,14 @@ void ZepletEventSystem::dispatchEvent(const ZepletEvent &event)
     const SubscribersPointer snapshot = d->snapshot(event.type);
     if (!snapshot)
         return;
+    ShardedCounter::Shard &handled = d->totalEventsHandled.shard();
     InvocationClock clock;
     QStringList fired;
     for (const StoredPointer &record : snapshot->list.records()) {
         if (!record->isCallable())
             continue;
         record->invoke(event, clock);
-        d->totalEventsHandled.fetch_add(1, std::memory_order_relaxed);
+        handled.fetch_add(1, std::memory_order_relaxed);
         if (record->storedOneShot && record->invokeCount > 0)
             fired.append(record->storedId);
     }
@@ -341,18 +340,18 @@ QStringList ZepletEventSystem::totalSubscriptionIds(const QString &pluginName) c
 
 quint64 ZepletEventSystem::totalEventsPublished() const
 {
-    return d->totalEventsPublished.load(std::memory_order_relaxed);
+    return d->totalEventsPublished.total();
 }
 
 quint64 ZepletEventSystem::totalEventsHandled() const
 {
-    return d->totalEventsHandled.load(std::memory_order_relaxed);
+    return d->totalEventsHandled.total();
 }
 
 void ZepletEventSystem::resetStatistics()
 {
-    d->totalEventsPublished.store(0, std::memory_order_relaxed);
-    d->totalEventsHandled.store(0, std::memory_order_relaxed);
+    d->totalEventsPublished.reset();
+    d->totalEventsHandled.reset();
 }
 
 ZepletEventType ZepletEventSystem::registerCustomEventType(const QString &name)

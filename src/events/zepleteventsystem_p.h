@@ -6,6 +6,7 @@
 
 #include <atomic>
 
+#include "shardedcounter_p.h"
 #include "storedsubscription_p.h"
 #include "zepleteventsystem.h"
 #include "zepletsubscriptionmanager.h"
@@ -50,9 +51,8 @@ public:
     QMap<int, QString> customTypeNames;
     /// An entry stays until its object dies, also without subscriptions.
     QHash<QObject *, QSharedPointer<SubscriptionContext>> contexts;
-    // On cache lines of their own: every publishing thread writes them.
-    alignas(64) std::atomic<quint64> totalEventsPublished {0};
-    alignas(64) std::atomic<quint64> totalEventsHandled {0};
+    ShardedCounter totalEventsPublished;
+    ShardedCounter totalEventsHandled;
 
 private:
     const QSharedPointer<SubscriptionContext> &contextOf(QObject *object);

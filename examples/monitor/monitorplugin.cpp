@@ -21,7 +21,8 @@ const bool registered = [] {
 
 void writeLog(const ZepletEvent &event)
 {
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("MM/dd hh:mm:ss.zzz"));
+    const QString time
+        = QDateTime::currentDateTime().toString(QStringLiteral("MM/dd hh:mm:ss.zzz"));
     FLog(QStringLiteral("[I|%1]").arg(time), QString(), QStringLiteral("./log/zeplet/monitor"),
          QStringLiteral("log"))
         << event.toString();

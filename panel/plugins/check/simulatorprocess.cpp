@@ -1,0 +1,54 @@
+#include "simulatorprocess.h"
+
+#include <brisa/managerhelper.h>
+#include <brisa/settingmanager.h>
+
+SimulatorProcess::SimulatorProcess(QObject *parent)
+    : QObject(parent)
+{
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &SimulatorProcess::readOutput);
+}
+
+SimulatorProcess::~SimulatorProcess()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void SimulatorProcess::start()
+{
+    auto *settings = brisa::ManagerHelper::instance()->settingManager();
+    QStringList arguments
+        = {QStringLiteral("--port"), settings->getStr(QStringLiteral("server.port"), QString()),
+           QStringLiteral("--hub-port"),
+           settings->getStr(QStringLiteral("server.hub_port"), QString())};
+    const QString scenario = qEnvironmentVariable("ZEPLET_SCENARIO");
+    if (!scenario.isEmpty())
+        arguments << QStringLiteral("--scenario") << scenario;
+    m_ready = false;
+    m_process.start(qEnvironmentVariable("ZEPLET_SIMULATOR"), arguments);
+}
+
+void SimulatorProcess::control(const QString &line)
+{
+    m_process.write(line.toUtf8() + '\n');
+}
+
+void SimulatorProcess::kill()
+{
+    m_process.kill();
+}
+
+bool SimulatorProcess::isRunning() const
+{
+    return m_process.state() != QProcess::NotRunning;
+}
+
+void SimulatorProcess::readOutput()
+{
+    while (m_process.canReadLine()) {
+        if (m_process.readLine().startsWith("ready "))
+            m_ready = true;
+    }
+}

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Installs a build into an empty prefix and uses it as an author and an integrator do: an example
+# plugin builds alone against it, and the library builds against the installed host.
+set -euo pipefail
+build=${1:?usage: install.sh BUILD_DIRECTORY}
+root=$(cd "$(dirname "$0")/../.." && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+options=(-G Ninja -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_BUILD_TYPE=Debug
+    -DCMAKE_PREFIX_PATH="$work/prefix")
+
+cmake --install "$build" --prefix "$work/prefix" >/dev/null
+if find "$work/prefix" -name '*_p.h' | grep .; then
+    echo "private headers were installed" >&2
+    exit 1
+fi
+
+# A copy outside the project proves that it needs nothing but the installation.
+cp -r "$root/examples/monitor" "$work/monitor"
+cmake -S "$work/monitor" -B "$work/monitor/build" "${options[@]}" >/dev/null
+cmake --build "$work/monitor/build"
+
+cmake -S "$root" -B "$work/library" "${options[@]}" -DZEPLET_HOST=ZepletHost >/dev/null
+cmake --build "$work/library"
+if [ -d "$work/library/host" ]; then
+    echo "the library's build against another host also built the reference host" >&2
+    exit 1
+fi
+
+# What the two builds made must load with every symbol resolved.
+export LD_LIBRARY_PATH=$work/prefix/lib
+for library in $(find "$work/monitor/build" "$work/library" -name '*.so'); do
+    echo "checking $library"
+    if ldd -r "$library" | grep -E 'not found|undefined symbol'; then
+        exit 1
+    fi
+done

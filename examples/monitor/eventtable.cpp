@@ -8,7 +8,7 @@
 namespace
 {
 constexpr int maximumRows = 200;
-constexpr int rowHeight = 53; // a finger's width on the panel
+constexpr int touchHeight = 53; // a finger's width on the panel
 
 QString dataText(const QVariant &data)
 {
@@ -27,7 +27,7 @@ EventTable::EventTable(QWidget *parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(rowHeight);
+    verticalHeader()->setDefaultSectionSize(touchHeight);
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setShowGrid(false);

@@ -39,7 +39,7 @@ def human(value, what):
 
 
 def line(row, found):
-    what = row.get("measure", "real_time")
+    what = row.get("measure", "cpu_time")
     missing = [name for name in (row["ours"], row["peer"]) if name not in found]
     if missing:
         sys.exit(f"table.py: no result for {', '.join(missing)}")

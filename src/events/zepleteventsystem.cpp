@@ -157,6 +157,8 @@ ZepletEventSystem::ZepletEventSystem()
 ZepletEventSystem::~ZepletEventSystem()
 {
     while (!d->takeAll().empty()) { }
+    // As a context object of its own, it would ask for its state once more when that is gone.
+    disconnect(this, &QObject::destroyed, this, &ZepletEventSystem::onContextDestroyed);
 }
 
 QString ZepletEventSystem::subscribe(ZepletEventType type, Callback callback,

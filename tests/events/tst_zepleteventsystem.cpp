@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -54,6 +55,7 @@ private slots:
 
     void publishing();
     void oneShotGetsOneEvent();
+    void oneShotStaysToTheEndOfTheDispatch();
     void nestedPublishRunsFirst();
     void changesDuringDispatch();
     void exceptionLeavesTheBusUsable();
@@ -80,6 +82,7 @@ private slots:
     void releaseRunsWithoutTheLock_data();
     void releaseRunsWithoutTheLock();
     void capturedObjectsMayUseTheDyingBus();
+    void theBusMayBeTheContext();
 
 private:
     QString subscribe(Kind kind, ZepletEventType type, const ZepletEventHandler::Callback &callback,
@@ -236,6 +239,22 @@ void TestZepletEventSystem::oneShotGetsOneEvent()
     QCOMPARE(removed.first().first().toString(), id);
     m_bus->publish(RCRunStart);
     QCOMPARE(m_calls, 2);
+}
+
+// Also in the eyes of those that are called after it.
+void TestZepletEventSystem::oneShotStaysToTheEndOfTheDispatch()
+{
+    QStringList ids;
+    for (int i = 0; i < 8; ++i) {
+        ids.append(m_bus->subscribeOnce(RCRunStart, [this, &ids](const ZepletEvent &) {
+            m_calls += int(std::count_if(ids.cbegin(), ids.cend(), [this](const QString &id) {
+                return m_bus->hasSubscription(id);
+            }));
+        }));
+    }
+    m_bus->publish(RCRunStart);
+    QCOMPARE(m_calls, 8 * 8);
+    QCOMPARE(m_bus->subscriptionCount(RCRunStart), 0);
 }
 
 void TestZepletEventSystem::nestedPublishRunsFirst()
@@ -618,6 +637,18 @@ void TestZepletEventSystem::capturedObjectsMayUseTheDyingBus()
     ZepletEventSystem::destroyInstance();
     QVERIFY(watched.isNull());
     m_context.reset();
+}
+
+// For a subscription that lasts as long as the bus does.
+void TestZepletEventSystem::theBusMayBeTheContext()
+{
+    m_bus->subscribe(RCRunStart, counter(), "p", m_bus);
+    m_bus->publish(RCRunStart);
+    QCOMPARE(m_calls, 1);
+    ZepletEventSystem::destroyInstance();
+    m_bus = zepletEvent();
+    m_bus->publish(RCRunStart);
+    QCOMPARE(m_calls, 1);
 }
 
 QTEST_GUILESS_MAIN(TestZepletEventSystem)

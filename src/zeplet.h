@@ -5,7 +5,10 @@
 #include <zeplet/events/zepleteventfilters.h>
 #include <zeplet/events/zepleteventsystem.h>
 #include <zeplet/events/zepleteventtype.h>
+#include <zeplet/interface/custominterface.h>
 #include <zeplet/interface/interfacemanager.h>
+#include <zeplet/interface/networkinterface.h>
+#include <zeplet/interface/serviceinterface.h>
 #include <zeplet/log/flog.h>
 #include <zeplet/log/qflog.h>
 #include <zeplet/log/qlog.h>

@@ -11,11 +11,9 @@ namespace zeplet
 class ZEPLET_EXPORT BaseInterface : public QObject
 {
 public:
-    explicit BaseInterface(QObject *parent)
-        : QObject(parent)
-    {
-    }
-    ~BaseInterface() override = default;
+    /** Belongs to the parent, if there is one. */
+    explicit BaseInterface(QObject *parent);
+    ~BaseInterface() override;
 };
 
 } // namespace zeplet

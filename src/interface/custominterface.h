@@ -10,10 +10,8 @@ namespace zeplet
 class ZEPLET_EXPORT CustomInterface : public BaseInterface
 {
 public:
-    explicit CustomInterface(QObject *parent)
-        : BaseInterface(parent)
-    {
-    }
+    explicit CustomInterface(QObject *parent);
+    ~CustomInterface() override;
 };
 
 } // namespace zeplet

@@ -73,7 +73,8 @@ public:
     // Subscriptions. Callbacks run as handlers of the event bus. "subscriber" is the plugin's name
     // on the bus; "reserved" is ignored.
 
-    /** Calls back on changes of a hub key, and watches the key while anyone does. */
+    /** Calls back on changes of a hub key, and watches the key until everyone who connected it has
+     *  disconnected it: ending the subscription on the bus alone does not end the watch. */
     bool connectNexoData(const QString &subscriber, const QString &serviceKey,
                          std::function<void(const QVariant &)> callback,
                          const QString &reserved = QString());

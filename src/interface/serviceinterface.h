@@ -10,10 +10,8 @@ namespace zeplet
 class ZEPLET_EXPORT ServiceInterface : public BaseInterface
 {
 public:
-    explicit ServiceInterface(QObject *parent)
-        : BaseInterface(parent)
-    {
-    }
+    explicit ServiceInterface(QObject *parent);
+    ~ServiceInterface() override;
 };
 
 } // namespace zeplet

@@ -9,10 +9,14 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace zeplet
 {
 
 using Callback = std::function<void(const QVariant &)>;
+using Connections = QMap<QString, QMetaObject::Connection>;
+using Subscriptions = QMap<QString, QList<QString>>;
 
 namespace
 {
@@ -25,23 +29,40 @@ QString subscribeSource(ZepletEventType type, const QString &source, Callback ca
                                             nullptr);
 }
 
+// True where the key is connected already, so that one more subscription shares the connection.
+bool joinKey(Subscriptions &subscriptions, const QString &key, const QString &id)
+{
+    if (subscriptions.contains(key)) {
+        subscriptions[key].append(id);
+        return true;
+    }
+    subscriptions.insert(key, {});
+    return false;
+}
+
+// Keeps what publishes the key; false where it could not be connected. Both go to the log.
+bool keepConnection(Connections &connections, const QString &key,
+                    const QMetaObject::Connection &connection, const QString &success,
+                    const QString &failure)
+{
+    if (connection)
+        connections.insert(key, connection);
+    statusLine() << (connection ? success : failure) << key;
+    return connection;
+}
+
 // Ends one subscription, or all of the key with an empty id. True once nobody is left, in which
 // case the key's connection is gone too.
-template <typename Subscriptions, typename Connections>
 bool releaseKey(Subscriptions &subscriptions, Connections &connections, const QString &key,
                 const QString &id)
 {
-    auto stored = subscriptions.find(key);
-    const QList<QString> ended = id.isEmpty()
-        ? (stored == subscriptions.end() ? QList<QString>() : *stored)
-        : QList<QString> {id};
-    if (stored != subscriptions.end()) {
-        if (id.isEmpty())
-            stored->clear();
-        else
-            stored->removeAll(id);
-    }
-    for (const QString &subscription : ended)
+    QList<QString> ended {id};
+    const auto stored = subscriptions.find(key);
+    if (id.isEmpty())
+        ended = stored == subscriptions.end() ? QList<QString>() : std::exchange(*stored, {});
+    else if (stored != subscriptions.end())
+        stored->removeAll(id);
+    for (const QString &subscription : qAsConst(ended))
         zepletEvent()->unsubscribe(subscription);
 
     if (!subscriptions.value(key).isEmpty())
@@ -84,22 +105,15 @@ bool InterfaceManager::connectNexoData(const QString &subscriber, const QString 
     const QString id = subscribeSource(NexoDataChange, serviceKey, std::move(callback), subscriber);
     if (id.isEmpty())
         return false;
-    if (d->nexoSubscriptions.contains(serviceKey)) {
-        d->nexoSubscriptions[serviceKey].append(id);
+    if (joinKey(d->nexoSubscriptions, serviceKey, id))
         return true;
-    }
-
-    d->nexoSubscriptions.insert(serviceKey, {});
-    const QMetaObject::Connection connection = d->publishHubKey(serviceKey);
-    if (!connection) {
+    if (!keepConnection(d->nexoConnections, serviceKey, d->publishHubKey(serviceKey),
+                        QStringLiteral("connectNexoData - serviceKey : "),
+                        QStringLiteral("connectNexoData failed: connect signal failed for "))) {
         // The subscription on the bus stays: others may publish this key.
-        statusLine() << QStringLiteral("connectNexoData failed: connect signal failed for ")
-                     << serviceKey;
         d->nexoSubscriptions.remove(serviceKey);
         return false;
     }
-    d->nexoConnections.insert(serviceKey, connection);
-    statusLine() << QStringLiteral("connectNexoData - serviceKey : ") << serviceKey;
     nexo()->watch(nullptr, serviceKey, true);
     d->nexoSubscriptions[serviceKey].append(id);
     return true;
@@ -122,22 +136,15 @@ bool InterfaceManager::connectRcNotify(const QString &subscriber, const QString 
         = subscribeSource(RCNotifyDataChange, notifyPath, std::move(callback), subscriber);
     if (id.isEmpty())
         return false;
-    if (d->rcNotifySubscriptions.contains(notifyPath)) {
-        d->rcNotifySubscriptions[notifyPath].append(id);
+    if (joinKey(d->rcNotifySubscriptions, notifyPath, id))
         return true;
-    }
-
-    d->rcNotifySubscriptions.insert(notifyPath, {});
-    const QMetaObject::Connection connection = d->publishNotifyPath(notifyPath);
-    if (!connection) {
-        statusLine() << QStringLiteral("connectRcNotify failed: connect signal failed for ")
-                     << notifyPath;
+    if (!keepConnection(d->rcNotifyConnections, notifyPath, d->publishNotifyPath(notifyPath),
+                        QStringLiteral("connectRcNotify - notifyPath : "),
+                        QStringLiteral("connectRcNotify failed: connect signal failed for "))) {
         zepletEvent()->unsubscribe(id);
         d->rcNotifySubscriptions.remove(notifyPath);
         return false;
     }
-    d->rcNotifyConnections.insert(notifyPath, connection);
-    statusLine() << QStringLiteral("connectRcNotify - notifyPath : ") << notifyPath;
     d->rcNotifySubscriptions[notifyPath].append(id);
     return true;
 }

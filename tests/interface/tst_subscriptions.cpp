@@ -98,6 +98,10 @@ void TestSubscriptions::hubChangesReachTheCallbacksOfTheirKey()
     QCOMPARE(events.first().type, NexoDataChange);
     QCOMPARE(events.first().source, QStringLiteral("demo.speed"));
     disconnect(all);
+
+    // At once, where the host sets the node.
+    nexo()->watchNode(QStringLiteral("demo.speed"))->set(nullptr, 7);
+    QCOMPARE(speeds.size(), 2);
     QVERIFY(manager->disconnectNexoData(plugin, QStringLiteral("demo.speed"), QString()));
     QVERIFY(manager->disconnectNexoData(plugin, QStringLiteral("demo.name"), QString()));
 }
@@ -241,9 +245,12 @@ void TestSubscriptions::networkStatusCallsBackWhileTheContextLives()
     const QString down
         = manager->connectNetworkStatus(false, plugin, context.get(), [&] { ++downs; });
     zepletEvent()->publish(NetworkConnected);
+    QCOMPARE(ups, 1);
+    QCOMPARE(downs, 0);
     zepletEvent()->publish(NetworkDisconnected);
     QCOMPARE(ups, 1);
     QCOMPARE(downs, 1);
+    QVERIFY(zepletEvent()->totalSubscriptionIds(plugin).contains(up));
 
     QVERIFY(!manager->disconnectNetworkStatus(true, plugin, QString()));
     QVERIFY(manager->disconnectNetworkStatus(false, plugin, up));

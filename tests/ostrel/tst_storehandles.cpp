@@ -1,6 +1,6 @@
-#include <kest/modulefactory.h>
+#include "testcolumns.h"
+
 #include <ostrel/moduleobject.h>
-#include <ostrel/pluginmanager.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -57,350 +57,301 @@ class TestStoreHandles : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void notification_data();
-    void notification();
-    void originIsPassedOn();
-    void placeholderIsInvisible();
-    void placeholderAttaches_data();
-    void placeholderAttaches();
-    void keyedHandleOutlivesItsContent();
-    void elementHandleGoesLater();
-    void handlesFollowTheirElements();
-    void appendedHandleOrAwaitedPlace();
-    void changeInsideOwnSignal_data();
-    void changeInsideOwnSignal();
-    void receiverEndsTheTree();
-    void globalStore();
-    void globalStoreForgetsElements();
-    void registries();
-};
+    void notification_data()
+    {
+        // watched: "", "a", "a.b", "a.c", "l", "l.#0"
+        const auto row = testcolumns<QString, Change, QStringList>("before", "change", "told");
 
-void TestStoreHandles::notification_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QStringList>("told"); // watched: "", "a", "a.b", "a.c", "l", "l.#0"
-
-    const auto row
-        = [](const char *name, const char *before, const Change &change, const QStringList &told) {
-              QTest::newRow(name) << QString(before) << change << told;
-          };
-    const auto import = [](const char *path, const QJsonValue &json) {
-        return [=](ModuleObject &root) {
-            root.r(path)->importFromJson(nullptr, json, true, true, true);
+        const auto import = [](const char *path, const QJsonValue &json) {
+            return [=](ModuleObject &root) {
+                root.r(path)->importFromJson(nullptr, json, true, true, true);
+            };
         };
-    };
-    row("set tells the node only", "{}", [](auto &root) { root.set(nullptr, "a.b", 1, true); },
-        {"a.b: - -> 1"});
-    row("equal value", R"({"a":{"b":1}})", [](auto &root) { root.set(nullptr, "a.b", 1, true); },
-        {"a.b: 1 -> 1"});
-    row("silent", "{}", [](auto &root) { root.set(nullptr, "a.b", 1, false); }, {});
-    row("touch", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->set(nullptr, QVariant()); },
-        {"a: - -> -"});
-    row("value over children", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->set(nullptr, 5); },
-        {"a.b: 1 -> -", R"(a: {"b":1} -> 5)"});
-    row("import tells what differs, then itself", R"({"a":{"b":1,"c":2}})",
-        import("a", QJsonObject {{"b", 1}, {"c", 3}}),
-        {"a.c: 2 -> 3", R"(a: {"b":1,"c":2} -> {"b":1,"c":3})"});
-    row("import of equal content", R"({"a":{"b":1}})", import("a", QJsonObject {{"b", 1}}),
-        {R"(a: {"b":1} -> {"b":1})"});
-    row("import removes", R"({"a":{"b":1}})", import("a", QJsonObject()),
-        {"a.b: 1 -> -", R"(a: {"b":1} -> {})"});
-    row("import makes", "{}", import("", QJsonObject {{"l", QJsonArray {1}}}),
-        {"l.#0: - -> 1", "l: - -> [1]", R"(: {} -> {"l":[1]})"});
-    row("import of null makes a node", "{}", import("", QJsonObject {{"a", QJsonValue()}}),
-        {"a: - -> -", R"(: {} -> {"a":null})"});
-    row("remove", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->remove(nullptr); },
-        {"a.b: 1 -> -", R"(a: {"b":1} -> -)"});
-    row("remove nothing", "{}", [](auto &root) { root.r("a")->remove(nullptr); }, {});
-    row("remove element", R"({"l":[1,2]})", [](auto &root) { root.r("l")->removeAt(nullptr, 0); },
-        {"l.#0: 1 -> -", "l: - -> -"});
-    row("append", R"({"l":[1]})",
-        [](auto &root) { root.r("l")->append(nullptr, std::make_unique<ModuleObject>()); },
-        {"l: - -> -"});
-    row("clear", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->clear(nullptr); },
-        {"a.b: 1 -> -", R"(a: {"b":1} -> {})"});
-    row("text", R"({"a":{"b":1,"c":2}})",
-        [](auto &root) { root.r("a")->fromJsonText(nullptr, R"({"b":1,"c":0})"); },
-        {"a.c: 2 -> 0", R"(a: {"b":1,"c":2} -> {"b":1,"c":0})"});
-    row("copy", R"({"a":1,"x":{"c":2}})",
-        [](auto &root) { root.r("a")->copyFrom(nullptr, *root.r("x")); },
-        {"a.c: - -> 2", R"(a: 1 -> {"c":2})"});
-}
+        row("set tells the node only", "{}", [](auto &root) { root.set(nullptr, "a.b", 1, true); },
+            {"a.b: - -> 1"});
+        row("equal value", R"({"a":{"b":1}})",
+            [](auto &root) { root.set(nullptr, "a.b", 1, true); }, {"a.b: 1 -> 1"});
+        row("silent", "{}", [](auto &root) { root.set(nullptr, "a.b", 1, false); }, {});
+        row("touch", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->set(nullptr, QVariant()); },
+            {"a: - -> -"});
+        row("value over children", R"({"a":{"b":1}})",
+            [](auto &root) { root.r("a")->set(nullptr, 5); },
+            {"a.b: 1 -> -", R"(a: {"b":1} -> 5)"});
+        row("import tells what differs, then itself", R"({"a":{"b":1,"c":2}})",
+            import("a", QJsonObject {{"b", 1}, {"c", 3}}),
+            {"a.c: 2 -> 3", R"(a: {"b":1,"c":2} -> {"b":1,"c":3})"});
+        row("import of equal content", R"({"a":{"b":1}})", import("a", QJsonObject {{"b", 1}}),
+            {R"(a: {"b":1} -> {"b":1})"});
 
-void TestStoreHandles::notification()
-{
-    QFETCH(QString, before);
-    QFETCH(Change, change);
-    ModuleObject root;
-    load(root, before.toUtf8());
-    Journal journal(root, {"", "a", "a.b", "a.c", "l", "l.#0"});
-    change(root);
-    QTEST(journal.take(), "told");
-}
+        row("import makes", "{}", import("", QJsonObject {{"l", QJsonArray {1}}}),
+            {"l.#0: - -> 1", "l: - -> [1]", R"(: {} -> {"l":[1]})"});
+        row("import of null makes a node", "{}", import("", QJsonObject {{"a", QJsonValue()}}),
+            {"a: - -> -", R"(: {} -> {"a":null})"});
+        row("remove", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->remove(nullptr); },
+            {"a.b: 1 -> -", R"(a: {"b":1} -> -)"});
+        row("remove nothing", "{}", [](auto &root) { root.r("a")->remove(nullptr); }, {});
+        row("remove element", R"({"l":[1,2]})",
+            [](auto &root) { root.r("l")->removeAt(nullptr, 0); }, {"l.#0: 1 -> -", "l: - -> -"});
+        row("append", R"({"l":[1]})",
+            [](auto &root) { root.r("l")->append(nullptr, std::make_unique<ModuleObject>()); },
+            {"l: - -> -"});
+        row("clear", R"({"a":{"b":1}})", [](auto &root) { root.r("a")->clear(nullptr); },
+            {"a.b: 1 -> -", R"(a: {"b":1} -> {})"});
 
-void TestStoreHandles::originIsPassedOn()
-{
-    ModuleObject root;
-    QSignalSpy spy(root.r("a"), &ModuleObject::changed);
-    root.set(this, "a", 1, true);
-    root.importFromJson(&root, QJsonObject {{"a", 2}}, true, true, true);
-    root.r("a")->remove(this);
-    QCOMPARE(spy.count(), 3);
-    QCOMPARE(spy[0][2].value<QObject *>(), this);
-    QCOMPARE(spy[1][2].value<QObject *>(), &root);
-    QCOMPARE(spy[2][2].value<QObject *>(), this);
-}
-
-void TestStoreHandles::placeholderIsInvisible()
-{
-    ModuleObject root;
-    QVERIFY(root.isNull());
-    ModuleObject *node = root.r("a.b.#2.c");
-    QVERIFY(node->isNull() && root.isNull());
-    QCOMPARE(node->name(), QString("c"));
-    QCOMPARE(root.r("a.b.#2.c"), node);
-    QVERIFY(root.exportToJson().isNull());
-    QVERIFY(node->exportToJson().isNull());
-    QVERIFY(!node->value().isValid());
-
-    root.set(nullptr, "x", 1, true);
-    QCOMPARE(root.childNames(), QStringList("x"));
-    QCOMPARE(root.toJsonText(false), QByteArray(R"({"x":1})"));
-    QVERIFY(!root.child("a") && !root.contains("a"));
-
-    node->set(nullptr, QVariant());
-    QVERIFY(!node->isNull());
-    QCOMPARE(root.toJsonText(false), QByteArray(R"({"x":1,"a":{"b":[null,null,{"c":null}]}})"));
-}
-
-void TestStoreHandles::placeholderAttaches_data()
-{
-    QTest::addColumn<Change>("change"); // makes "a.#1.b" hold 5
-
-    const QJsonObject json {{"a", QJsonArray {0, QJsonObject {{"b", 5}}}}};
-    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
-    row("itself", [](auto &root) { root.r("a.#1.b")->set(nullptr, 5); });
-    row("path", [](auto &root) { root.set(nullptr, "a.#1.b", 5, true); });
-    row("path below", [](auto &root) { root.r("a")->set(nullptr, "#1.b", 5, true); });
-    row("import", [=](auto &root) { root.importFromJson(nullptr, json, true, true, true); });
-    row("map", [=](auto &root) { root.set(nullptr, json.toVariantMap()); });
-    row("text", [](auto &root) { root.fromJsonText(nullptr, R"({"a":[0,{"b":5}]})"); });
-    row("copy", [=](auto &root) {
-        ModuleObject other;
-        other.set(nullptr, json);
-        root.copyFrom(nullptr, other);
-    });
-    row("child by child", [](auto &root) {
-        root.setChild(nullptr, "a", QVariantList {0});
-        root.r("a")->append(nullptr, std::make_unique<ModuleObject>());
-        root.r("a.#1")->setChild(nullptr, "b", 5);
-    });
-}
-
-void TestStoreHandles::placeholderAttaches()
-{
-    QFETCH(Change, change);
-    ModuleObject root;
-    ModuleObject *node = root.r("a.#1.b");
-    QSignalSpy spy(node, &ModuleObject::changed);
-    change(root);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy[0][0].toInt(), 5);
-    QCOMPARE(node->getInt(0), 5);
-    QCOMPARE(root.r("a.#1.b"), node);
-    root.set(nullptr, "a.#1.b", 6, true);
-    QCOMPARE(spy.count(), 2);
-}
-
-void TestStoreHandles::keyedHandleOutlivesItsContent()
-{
-    ModuleObject root;
-    load(root, R"({"a":{"b":{"c":1}},"z":0})");
-    QPointer<ModuleObject> node = root.r("a.b.c");
-    for (int round = 0; round < 3; ++round) {
-        root.r("a")->remove(nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(node && node->isNull());
-        QCOMPARE(root.r("a.b.c"), node.data());
-        root.set(nullptr, "a.b.c", round, true);
-        QCOMPARE(node->getInt(-1), round);
+        row("copy", R"({"a":1,"x":{"c":2}})",
+            [](auto &root) { root.r("a")->copyFrom(nullptr, *root.r("x")); },
+            {"a.c: - -> 2", R"(a: 1 -> {"c":2})"});
     }
-    root.set(nullptr, "a", 1, true);
-    QVERIFY(node->isNull());
-    node->set(nullptr, 2);
-    QCOMPARE(root.toJsonText(false), QByteArray(R"({"z":0,"a":{"b":{"c":2}}})"));
-}
 
-void TestStoreHandles::elementHandleGoesLater()
-{
-    ModuleObject root;
-    load(root, R"({"l":[{"name":"P1"},{"name":"P2"}]})");
-    QPointer<ModuleObject> element = root.r("l.#0");
-    QPointer<ModuleObject> name = root.r("l.#0.name");
-    QPointer<ModuleObject> waiting = root.r("l.#0.nothing.yet");
-    root.r("l")->removeAt(nullptr, 0);
-
-    QVERIFY(element && name && waiting);
-    QVERIFY(element->isNull() && name->isNull());
-    name->set(nullptr, "apart");
-    waiting->set(nullptr, 1);
-    QCOMPARE(root.toJsonText(false), QByteArray(R"({"l":[{"name":"P2"}]})"));
-    QCOMPARE(root.r("l.#0.name")->getStr(""), QString("P2"));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!element && !name && !waiting);
-}
-
-void TestStoreHandles::handlesFollowTheirElements()
-{
-    ModuleObject list;
-    QVector<ModuleObject *> handles;
-    for (int i = 0; i < 200; ++i) {
-        list.set(nullptr, QString("#%1.v").arg(i), i, false);
-        handles << list.r(QString("#%1.v").arg(i));
-    }
-    for (int i = 199; i >= 0; i -= 2)
-        list.removeAt(nullptr, i);
-    for (int i = 0; i < 200; i += 2) {
-        QCOMPARE(handles[i]->getInt(-1), i);
-        QCOMPARE(list.r(QString("#%1.v").arg(i / 2)), handles[i]);
-    }
-}
-
-void TestStoreHandles::appendedHandleOrAwaitedPlace()
-{
-    ModuleObject list;
-    auto record = std::make_unique<ModuleObject>("id");
-    QPointer<ModuleObject> handle = record.get();
-    QPointer<ModuleObject> inner = record->r("x");
-    QCOMPARE(list.append(nullptr, std::move(record)), handle.data());
-    inner->set(nullptr, 1);
-    QCOMPARE(list.toJsonText(false), QByteArray(R"([{"x":1}])"));
-
-    ModuleObject *awaited = list.r("#1");
-    ModuleObject *awaitedInner = list.r("#1.y");
-    record = std::make_unique<ModuleObject>("other");
-    record->set(nullptr, "y", 2, true);
-    QPointer<ModuleObject> gone = record.get();
-    QCOMPARE(list.append(nullptr, std::move(record)), awaited);
-    QCOMPARE(awaited->name(), QString("other"));
-    QCOMPARE(awaitedInner->getInt(0), 2);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(handle && inner && !gone);
-}
-
-void TestStoreHandles::changeInsideOwnSignal_data()
-{
-    QTest::addColumn<Change>("reaction"); // to a change of "l.#0.v", as receiver of that signal
-    QTest::addColumn<QByteArray>("after");
-
-    const auto row = [](const char *name, const Change &reaction, const char *after) {
-        QTest::newRow(name) << reaction << QByteArray(after);
-    };
-    row(
-        "set again", [](auto &root) { root.set(nullptr, "l.#0.v", 9, false); },
-        R"({"l":[{"v":9}]})");
-    row(
-        "remove itself", [](auto &root) { root.r("l.#0.v")->remove(nullptr, false); },
-        R"({"l":[{}]})");
-    row(
-        "remove its element", [](auto &root) { root.r("l")->removeAt(nullptr, 0); }, R"({"l":[]})");
-    row(
-        "remove all", [](auto &root) { root.remove(nullptr); }, "null");
-    row(
-        "replace all", [](auto &root) { root.fromJsonText(nullptr, "[1]"); }, "[1]");
-}
-
-void TestStoreHandles::changeInsideOwnSignal()
-{
-    QFETCH(Change, reaction);
-    const QVector<Change> triggers = {
-        [](auto &root) { root.set(nullptr, "l.#0.v", 1, true); },
-        [](auto &root) {
-            root.r("l.#0.v")->set(nullptr, QVariantMap {{"x", 1}});
-        },
-        [](auto &root) {
-            const QJsonObject record {{"v", 1}};
-            root.importFromJson(nullptr, QJsonObject {{"l", QJsonArray {record}}}, true, true,
-                                true);
-        },
-        [](auto &root) { root.r("l.#0.v")->remove(nullptr); },
-    };
-    for (const Change &trigger : triggers) {
+    void notification()
+    {
+        QFETCH(QString, before);
+        QFETCH(Change, change);
         ModuleObject root;
-        load(root, R"({"l":[{"v":0}]})");
-        bool reacted = false;
-        connect(root.r("l.#0.v"), &ModuleObject::changed, this, [&] {
-            if (!std::exchange(reacted, true))
-                reaction(root);
+        load(root, before.toUtf8());
+        Journal journal(root, {"", "a", "a.b", "a.c", "l", "l.#0"});
+        change(root);
+        QTEST(journal.take(), "told");
+    }
+
+    void originIsPassedOn()
+    {
+        ModuleObject root;
+        QSignalSpy spy(root.r("a"), &ModuleObject::changed);
+        root.set(this, "a", 1, true);
+        root.importFromJson(&root, QJsonObject {{"a", 2}}, true, true, true);
+        root.r("a")->remove(this);
+        QObjectList origins;
+        for (const QVariantList &event : spy)
+            origins << event[2].value<QObject *>();
+        QCOMPARE(origins, (QObjectList {this, &root, this}));
+    }
+
+    void placeholderIsInvisible()
+    {
+        ModuleObject root;
+        ModuleObject *node = root.r("a.b.#2.c");
+        QVERIFY(node->isNull() && root.isNull());
+        QCOMPARE(root.r("a.b.#2.c"), node);
+        QVERIFY(root.exportToJson().isNull() && node->exportToJson().isNull());
+        root.set(nullptr, "x", 1, true);
+        QCOMPARE(root.childNames(), QStringList("x"));
+        QVERIFY(!root.child("a") && !root.contains("a"));
+        node->set(nullptr, QVariant());
+        QVERIFY(!node->isNull());
+        QCOMPARE(root.toJsonText(false), QByteArray(R"({"x":1,"a":{"b":[null,null,{"c":null}]}})"));
+    }
+
+    void placeholderAttaches_data()
+    {
+        // makes "a.#1.b" hold 5
+        const auto row = testcolumns<Change>("change");
+
+        const QJsonObject json {{"a", QJsonArray {0, QJsonObject {{"b", 5}}}}};
+
+        row("itself", [](auto &root) { root.r("a.#1.b")->set(nullptr, 5); });
+        row("path", [](auto &root) { root.set(nullptr, "a.#1.b", 5, true); });
+
+        row("import", [=](auto &root) { root.importFromJson(nullptr, json, true, true, true); });
+        row("map", [=](auto &root) { root.set(nullptr, json.toVariantMap()); });
+
+        row("copy", [=](auto &root) {
+            ModuleObject other;
+            other.set(nullptr, json);
+            root.copyFrom(nullptr, other);
         });
-        QSignalSpy others(root.r("l"), &ModuleObject::changed);
-        trigger(root);
-        QVERIFY(reacted);
-        QTEST(root.toJsonText(false), "after");
+        row("child by child", [](auto &root) {
+            root.setChild(nullptr, "a", QVariantList {0});
+            root.r("a")->append(nullptr, std::make_unique<ModuleObject>());
+            root.r("a.#1")->setChild(nullptr, "b", 5);
+        });
+    }
+
+    void placeholderAttaches()
+    {
+        QFETCH(Change, change);
+        ModuleObject root;
+        ModuleObject *node = root.r("a.#1.b");
+        QSignalSpy spy(node, &ModuleObject::changed);
+        change(root);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy[0][0].toInt(), 5);
+        QCOMPARE(node->getInt(0), 5);
+        QCOMPARE(root.r("a.#1.b"), node);
+        root.set(nullptr, "a.#1.b", 6, true);
+        QCOMPARE(spy.count(), 2);
+    }
+
+    void keyedHandleOutlivesItsContent()
+    {
+        ModuleObject root;
+        load(root, R"({"a":{"b":{"c":1}},"z":0})");
+        QPointer<ModuleObject> node = root.r("a.b.c");
+        for (int round = 0; round < 3; ++round) {
+            root.r("a")->remove(nullptr);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(node && node->isNull());
+            QCOMPARE(root.r("a.b.c"), node.data());
+            root.set(nullptr, "a.b.c", round, true);
+            QCOMPARE(node->getInt(-1), round);
+        }
+        root.set(nullptr, "a", 1, true);
+        QVERIFY(node->isNull());
+        node->set(nullptr, 2);
+        QCOMPARE(root.toJsonText(false), QByteArray(R"({"z":0,"a":{"b":{"c":2}}})"));
+    }
+
+    void elementHandleGoesLater()
+    {
+        ModuleObject root;
+        load(root, R"({"l":[{"name":"P1"},{"name":"P2"}]})");
+        QPointer<ModuleObject> element = root.r("l.#0");
+        QPointer<ModuleObject> name = root.r("l.#0.name");
+        QPointer<ModuleObject> waiting = root.r("l.#0.nothing.yet");
+        root.r("l")->removeAt(nullptr, 0);
+
+        QVERIFY(element && name && waiting);
+        QVERIFY(element->isNull() && name->isNull());
+        name->set(nullptr, "apart");
+        waiting->set(nullptr, 1);
+        QCOMPARE(root.toJsonText(false), QByteArray(R"({"l":[{"name":"P2"}]})"));
+        QCOMPARE(root.r("l.#0.name")->getStr(""), QString("P2"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTEST(root.toJsonText(false), "after");
+        QVERIFY(!element && !name && !waiting);
     }
-}
 
-void TestStoreHandles::receiverEndsTheTree()
-{
-    for (const char *watched : {"", "a"}) {
-        auto *root = new ModuleObject;
-        load(*root, R"({"a":1})");
-        QPointer<ModuleObject> alive(root);
-        connect(root->r(watched), &ModuleObject::changed, this, [=] { delete root; });
-        root->importFromJson(nullptr, QJsonObject {{"a", 2}}, true, true, true);
-        QVERIFY(!alive);
+    void handlesFollowTheirElements()
+    {
+        ModuleObject list;
+        QVector<ModuleObject *> handles;
+        for (int i = 0; i < 200; ++i) {
+            list.set(nullptr, QString("#%1.v").arg(i), i, false);
+            handles << list.r(QString("#%1.v").arg(i));
+        }
+        for (int i = 199; i >= 0; i -= 2)
+            list.removeAt(nullptr, i);
+        for (int i = 0; i < 200; i += 2) {
+            QCOMPARE(handles[i]->getInt(-1), i);
+            QCOMPARE(list.r(QString("#%1.v").arg(i / 2)), handles[i]);
+        }
     }
-}
 
-void TestStoreHandles::globalStore()
-{
-    ModuleObject *power = m("brisa.r.power");
-    QSignalSpy spy(power, &ModuleObject::changed);
-    QVERIFY(power->isNull());
-    m("brisa.r")->importFromJson(this, QJsonObject {{"power", "on"}}, false, true, true);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy[0][0], QVariant("on"));
-    QCOMPARE(m("brisa.r.power"), power);
-    QCOMPARE(m("power", m("brisa.r")), power);
-    QCOMPARE(m("")->getStr("brisa.r.power", ""), QString("on"));
+    void appendedHandleOrAwaitedPlace()
+    {
+        ModuleObject list;
+        auto record = std::make_unique<ModuleObject>("id");
+        QPointer<ModuleObject> handle = record.get();
+        QPointer<ModuleObject> inner = record->r("x");
+        QCOMPARE(list.append(nullptr, std::move(record)), handle.data());
+        inner->set(nullptr, 1);
+        QCOMPARE(list.toJsonText(false), QByteArray(R"([{"x":1}])"));
 
-    m("brisa.r")->remove(nullptr);
-    QCOMPARE(m("brisa.r.power"), power);
-    power->set(nullptr, "off");
-    QCOMPARE(m("brisa")->toJsonText(false), QByteArray(R"({"r":{"power":"off"}})"));
-    m("brisa")->remove(nullptr);
-}
-
-void TestStoreHandles::globalStoreForgetsElements()
-{
-    // Looked up while nothing was there: nothing says yet that a list will come.
-    QPointer<ModuleObject> early = m("test.l.#0.v");
-    load(*m("test"), R"({"l":[{"v":1},{"v":2}]})");
-    QCOMPARE(early->getInt(0), 1);
-    QPointer<ModuleObject> second = m("test.l.#1.v");
-    m("test.l")->removeAt(nullptr, 0);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!early);
-    QCOMPARE(m("test.l.#0.v"), second.data());
-    m("test")->remove(nullptr);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(m("test.l.#0.v")->isNull());
-}
-
-void TestStoreHandles::registries()
-{
-    const QVector<ModuleObject *> nodes = {ostrel::pluginManager().mobj(), bfactory().mobj()};
-    for (ModuleObject *node : nodes) {
-        node->set(node, "demo", QVariant(), true);
-        QCOMPARE(node->childNames(), QStringList("demo"));
-        QVERIFY(!node->child("demo")->isNull());
+        ModuleObject *awaited = list.r("#1");
+        ModuleObject *awaitedInner = list.r("#1.y");
+        record = std::make_unique<ModuleObject>("other");
+        record->set(nullptr, "y", 2, true);
+        QPointer<ModuleObject> gone = record.get();
+        QCOMPARE(list.append(nullptr, std::move(record)), awaited);
+        QCOMPARE(awaited->name(), QString("other"));
+        QCOMPARE(awaitedInner->getInt(0), 2);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(handle && inner && !gone);
     }
-    QCOMPARE(nodes[0], m("ostrel.plugins"));
-    QCOMPARE(nodes[1], m("ostrel.bfactory"));
-}
+
+    void changeInsideOwnSignal_data()
+    {
+        // to a change of "l.#0.v", as receiver of that signal
+        const auto row = testcolumns<Change, QByteArray>("reaction", "after");
+
+        row(
+            "set again", [](auto &root) { root.set(nullptr, "l.#0.v", 9, false); },
+            R"({"l":[{"v":9}]})");
+        row(
+            "remove itself", [](auto &root) { root.r("l.#0.v")->remove(nullptr, false); },
+            R"({"l":[{}]})");
+        row(
+            "remove its element", [](auto &root) { root.r("l")->removeAt(nullptr, 0); },
+            R"({"l":[]})");
+        row(
+            "remove all", [](auto &root) { root.remove(nullptr); }, "null");
+        row(
+            "replace all", [](auto &root) { root.fromJsonText(nullptr, "[1]"); }, "[1]");
+    }
+
+    void changeInsideOwnSignal()
+    {
+        QFETCH(Change, reaction);
+        const QVector<Change> triggers = {
+            [](auto &root) { root.set(nullptr, "l.#0.v", 1, true); },
+            [](auto &root) {
+                root.r("l.#0.v")->set(nullptr, QVariantMap {{"x", 1}});
+            },
+            [](auto &root) {
+                const QJsonObject record {{"v", 1}};
+                root.importFromJson(nullptr, QJsonObject {{"l", QJsonArray {record}}}, true, true,
+                                    true);
+            },
+            [](auto &root) { root.r("l.#0.v")->remove(nullptr); },
+        };
+        for (const Change &trigger : triggers) {
+            ModuleObject root;
+            load(root, R"({"l":[{"v":0}]})");
+            bool reacted = false;
+            connect(root.r("l.#0.v"), &ModuleObject::changed, this, [&] {
+                if (!std::exchange(reacted, true))
+                    reaction(root);
+            });
+            QSignalSpy others(root.r("l"), &ModuleObject::changed);
+            trigger(root);
+            QVERIFY(reacted);
+            QTEST(root.toJsonText(false), "after");
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QTEST(root.toJsonText(false), "after");
+        }
+    }
+
+    void receiverEndsTheTree()
+    {
+        for (const char *watched : {"", "a"}) {
+            auto *root = new ModuleObject;
+            load(*root, R"({"a":1})");
+            QPointer<ModuleObject> alive(root);
+            connect(root->r(watched), &ModuleObject::changed, this, [=] { delete root; });
+            root->importFromJson(nullptr, QJsonObject {{"a", 2}}, true, true, true);
+            QVERIFY(!alive);
+        }
+    }
+
+    void globalStore()
+    {
+        ModuleObject *power = m("brisa.r.power");
+        QSignalSpy spy(power, &ModuleObject::changed);
+        m("brisa.r")->importFromJson(this, QJsonObject {{"power", "on"}}, false, true, true);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(m("power", m("brisa.r")), power);
+        m("brisa.r")->remove(nullptr);
+        QCOMPARE(m("brisa.r.power"), power);
+        power->set(nullptr, "off");
+        QCOMPARE(m("")->getStr("brisa.r.power", ""), QString("off"));
+        m("brisa")->remove(nullptr);
+    }
+
+    void globalStoreForgetsElements()
+    {
+        // Looked up while nothing was there: nothing says yet that a list will come.
+        QPointer<ModuleObject> early = m("test.l.#0.v");
+        load(*m("test"), R"({"l":[{"v":1},{"v":2}]})");
+        QCOMPARE(early->getInt(0), 1);
+        QPointer<ModuleObject> second = m("test.l.#1.v");
+        m("test.l")->removeAt(nullptr, 0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!early);
+        QCOMPARE(m("test.l.#0.v"), second.data());
+        m("test")->remove(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(m("test.l.#0.v")->isNull());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestStoreHandles)
 #include "tst_storehandles.moc"

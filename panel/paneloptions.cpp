@@ -51,6 +51,25 @@ std::optional<int> milliseconds(const QString &seconds)
     return static_cast<int>(std::ceil(number * 1000));
 }
 
+/** What was given, but for the duration, which may be wrong. */
+PanelOptions optionsOf(const QCommandLineParser &parser)
+{
+    PanelOptions options;
+    for (const QString &directory : parser.values("plugins"))
+        options.pluginDirectories += absolute(directory);
+    options.runtimeDirectory = parser.isSet("runtime")
+        ? absolute(parser.value("runtime"))
+        : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    options.settingsFile = parser.isSet("settings")
+        ? absolute(parser.value("settings"))
+        : QDir(options.runtimeDirectory).filePath(QStringLiteral("settings.json"));
+    options.screenshotFile = absolute(parser.value("screenshot"));
+    options.page = parser.value("page");
+    options.retries = parser.values("retry");
+    options.fullScreen = parser.isSet("fullscreen");
+    return options;
+}
+
 } // namespace
 
 std::optional<PanelOptions> PanelOptions::parse(const QStringList &arguments, QString *text,
@@ -72,24 +91,13 @@ std::optional<PanelOptions> PanelOptions::parse(const QStringList &arguments, QS
                        : parser.errorText();
         return std::nullopt;
     }
-    PanelOptions options;
-    if (parser.isSet("for")
-        && !(options.milliseconds = ::panel::milliseconds(parser.value("for")))) {
+    const std::optional<int> duration = ::panel::milliseconds(parser.value("for"));
+    if (parser.isSet("for") && !duration) {
         *text = tr("--for needs a number of seconds, not \"%1\".").arg(parser.value("for"));
         return std::nullopt;
     }
-    for (const QString &directory : parser.values("plugins"))
-        options.pluginDirectories += absolute(directory);
-    options.runtimeDirectory = parser.isSet("runtime")
-        ? absolute(parser.value("runtime"))
-        : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    options.settingsFile = parser.isSet("settings")
-        ? absolute(parser.value("settings"))
-        : QDir(options.runtimeDirectory).filePath(QStringLiteral("settings.json"));
-    options.screenshotFile = absolute(parser.value("screenshot"));
-    options.page = parser.value("page");
-    options.retries = parser.values("retry");
-    options.fullScreen = parser.isSet("fullscreen");
+    PanelOptions options = optionsOf(parser);
+    options.milliseconds = duration;
     return options;
 }
 

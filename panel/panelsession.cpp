@@ -97,30 +97,38 @@ void PanelSession::loadPlugins()
         m_guard->tryAgain(name);
     m_loader = std::make_unique<PluginLoader>(*m_guard);
     m_loader->loadDirectory(installed(ZEPLET_PANEL_PLUGIN_DIR));
-    if (m_options.pluginDirectories.isEmpty())
-        m_loader->loadDirectory(installed(ZEPLET_PLUGIN_DIR));
+    // A panel may be installed without plugins.
+    const QString plugins = installed(ZEPLET_PLUGIN_DIR);
+    if (m_options.pluginDirectories.isEmpty() && QDir(plugins).exists())
+        m_loader->loadDirectory(plugins);
     for (const QString &directory : m_options.pluginDirectories)
         m_loader->loadDirectory(directory);
 }
 
-/** The guard watches only these steps: what happens later is no start. */
 void PanelSession::startModules()
 {
     m_runner = std::make_unique<kest::ModuleRunner>();
     connect(m_runner.get(), &kest::ModuleRunner::moduleFaulty, m_loader.get(),
             &PluginLoader::markFaulty);
-    const auto started
-        = connect(m_runner.get(), &kest::ModuleRunner::stepStarted, this,
-                  [this](const QString &name, const QString &step) { m_guard->enter(name, step); });
-    const auto finished = connect(m_runner.get(), &kest::ModuleRunner::stepFinished, this,
-                                  [this] { m_guard->leave(); });
+    guardSteps();
     m_runner->start(m_loader->moduleNames());
-    disconnect(started);
-    disconnect(finished);
     m_runner->startFrames(FrameInterval);
     brisa::ManagerHelper *const host = brisa::ManagerHelper::instance();
     host->setReady(true);
     QTimer::singleShot(LinkDelay, this, [host] { host->openLinks(); });
+}
+
+/** The guard watches a module's steps up to its first frame: what happens later is no start. */
+void PanelSession::guardSteps()
+{
+    m_guarding = std::make_unique<QObject>();
+    const kest::ModuleRunner *const runner = m_runner.get();
+    connect(runner, &kest::ModuleRunner::stepStarted, m_guarding.get(),
+            [this](const QString &name, const QString &step) { m_guard->enter(name, step); });
+    connect(runner, &kest::ModuleRunner::stepFinished, m_guarding.get(),
+            [this] { m_guard->leave(); });
+    connect(runner, &kest::ModuleRunner::frameFinished, m_guarding.get(),
+            [this] { m_guarding.reset(); });
 }
 
 void PanelSession::showWindow()
@@ -140,6 +148,7 @@ bool PanelSession::finish()
     const bool saved = saveScreenshot();
     announce(QStringLiteral("stopping"));
     brisa::ManagerHelper::instance()->setReady(false);
+    m_guarding.reset();
     m_runner.reset();
     announce(QStringLiteral("stopped"));
     m_window.reset();

@@ -47,6 +47,7 @@ private:
     void showWindow();
     void loadPlugins();
     void startModules();
+    void guardSteps();
     bool saveScreenshot() const;
 
     const PanelOptions m_options;
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<StartGuard> m_guard;
     std::unique_ptr<PluginLoader> m_loader;
     std::unique_ptr<kest::ModuleRunner> m_runner;
+    std::unique_ptr<QObject> m_guarding; ///< lives until the first frame is over
     bool m_finished = false;
 };
 

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QLibrary>
-#include <QSet>
 #include <brisa/managerhelper.h>
 #include <kest/modulefactory.h>
 #include <locale.h>
@@ -61,6 +60,15 @@ QString withRemedy(QString cause)
     return PluginLoader::tr("%1; correct the plugin and start the panel again.").arg(cause);
 }
 
+/** Opens the library for the life of the process; the linker's message where it can't. */
+QString openLibrary(const QString &path)
+{
+    QLibrary library(path);
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    const EnglishMessages english;
+    return library.load() ? QString() : library.errorString();
+}
+
 void refuse(PluginRecord *record, const QString &sentence)
 {
     record->state = PluginRecord::Refused;
@@ -81,8 +89,11 @@ PluginLoader::PluginLoader(StartGuard &guard, QObject *parent)
 void PluginLoader::loadDirectory(const QString &path)
 {
     const QDir directory(path);
-    if (!directory.exists())
-        errorLine() << tr("The plugin directory %1 does not exist.").arg(path);
+    if (!directory.isReadable())
+        tellOperator(
+            tr("The plugin directory %1 can't be read: create it, correct its permissions, "
+               "or start the panel with another one.")
+                .arg(path));
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     for (const QFileInfo &file : files) {
@@ -119,21 +130,21 @@ PluginRecord PluginLoader::load(const QFileInfo &file)
 
 void PluginLoader::open(PluginRecord *record)
 {
-    const QString file = record->file.fileName();
     const QString path = record->file.absoluteFilePath();
     const QSet<QString> before = registeredModules();
-    m_guard.enter(record->tag.name, QStringLiteral("loading"), path);
-    QLibrary library(path);
-    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    const EnglishMessages english;
-    const bool loaded = library.load();
+    m_guard.enterLoading(record->tag.name, path);
+    const QString error = openLibrary(path);
     m_guard.leave();
-    if (!loaded) {
-        refuse(record, linkerSentence(file, library.errorString()));
-        return;
-    }
+    if (error.isEmpty())
+        takeModules(record, registeredModules() - before);
+    else
+        refuse(record, linkerSentence(record->file.fileName(), error));
+}
 
-    const QSet<QString> added = registeredModules() - before;
+/** added: what the library registered while it was opened. */
+void PluginLoader::takeModules(PluginRecord *record, const QSet<QString> &added)
+{
+    const QString file = record->file.fileName();
     if (added.isEmpty()) {
         refuse(record,
                tr("%1 registers no plugin named \"%2\": call zepletFactory().regist() in a "
@@ -149,6 +160,8 @@ void PluginLoader::open(PluginRecord *record)
     }
     record->modules = added.values();
     record->modules.sort();
+    for (const QString &module : qAsConst(record->modules))
+        m_guard.addModule(module, record->tag.name);
 }
 
 const QList<PluginRecord> &PluginLoader::records() const

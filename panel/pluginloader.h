@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 namespace panel
@@ -24,7 +25,8 @@ public:
     explicit PluginLoader(StartGuard &guard, QObject *parent = nullptr);
 
     /** Loads every library (*.so) of the directory, in the order of their names. A directory that
-     *  does not exist is logged. Runs the libraries' initialisers; blocks for the disk. */
+     *  can't be read is said to the operator. Runs the libraries' initialisers; blocks for the
+     * disk. */
     void loadDirectory(const QString &path);
 
     const QList<PluginRecord> &records() const;
@@ -40,6 +42,7 @@ public:
 private:
     PluginRecord load(const QFileInfo &file);
     void open(PluginRecord *record);
+    void takeModules(PluginRecord *record, const QSet<QString> &added);
     void mirror() const;
 
     StartGuard &m_guard;

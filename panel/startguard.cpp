@@ -80,10 +80,21 @@ void StartGuard::evaluateLastStart()
     save();
 }
 
-void StartGuard::enter(const QString &name, const QString &step, const QString &library)
+void StartGuard::enterLoading(const QString &name, const QString &library)
 {
-    if (!library.isEmpty())
-        m_libraries.insert(name, library);
+    m_libraries.insert(name, library);
+    enter(name, QStringLiteral("loading"));
+}
+
+void StartGuard::addModule(const QString &module, const QString &name)
+{
+    if (module != name)
+        m_plugins.insert(module, name);
+}
+
+void StartGuard::enter(const QString &module, const QString &step)
+{
+    const QString name = m_plugins.value(module, module);
     // A module without a library is the host's own: there is nothing to leave out.
     if (!m_active || !m_libraries.contains(name))
         return;

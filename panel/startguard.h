@@ -29,8 +29,12 @@ public:
     /** False where another panel uses the directory or it can't be written: nothing is guarded. */
     bool isActive() const;
 
-    /** A step of that plugin begins; library is its file, or empty where it is known already. */
-    void enter(const QString &name, const QString &step, const QString &library = QString());
+    /** Opening that plugin's file begins. */
+    void enterLoading(const QString &name, const QString &library);
+    /** The plugin has one more module, which its library registered beside its own. */
+    void addModule(const QString &module, const QString &name);
+    /** A step of that module begins. */
+    void enter(const QString &module, const QString &step);
     /** The step is over; nothing is being started. */
     void leave();
 
@@ -52,6 +56,7 @@ private:
     QFile m_starting;
     bool m_active = false;
     QHash<QString, QString> m_libraries; ///< plugin name to file, of this start
+    QHash<QString, QString> m_plugins; ///< module to plugin name, where they differ
     QJsonObject m_leftOut; ///< plugin name to its file's state and the fatal step
 };
 

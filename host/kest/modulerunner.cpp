@@ -103,6 +103,7 @@ void ModuleRunner::frame()
             call(*record, hooks[phase + 1]);
         }
     }
+    Q_EMIT frameFinished();
 }
 
 void ModuleRunner::stop(const QString &name)

@@ -66,6 +66,8 @@ Q_SIGNALS:
     void stepStarted(const QString &name, const QString &step);
     void stepFinished(const QString &name, const QString &step);
     void moduleFaulty(const QString &name, const QString &error);
+    /** All modules have rendered and idled. */
+    void frameFinished();
 
 private:
     struct Record;

@@ -43,23 +43,51 @@ private Q_SLOTS:
         QVERIFY(logText().contains("The panel has ended."));
     }
 
+    /** Modules go first, then the bus, then the I/O thread; and nothing makes a bus again. */
+    void endsInOrder()
+    {
+        pluginfiles::copy(plugins(), "ending");
+        QCOMPARE(run({"--for", "0.5"}), 0);
+        const QStringList said = m_output.split('\n').filter(": bus ");
+        QCOMPARE(said,
+                 QStringList({"detach: bus there, I/O thread there",
+                              "plugin ends: bus there, I/O thread there",
+                              "bus ends: bus there, I/O thread there",
+                              "process ends: bus gone, I/O thread gone"}));
+    }
+
+    void missingPluginDirectory()
+    {
+        QVERIFY(QDir(plugins()).removeRecursively());
+        QCOMPARE(run({"--for", "0.1"}), 0);
+        const QString sentence
+            = QStringLiteral("The plugin directory %1 can't be read: create it, ").arg(plugins());
+        QVERIFY2(m_output.contains(sentence), qPrintable(m_output));
+    }
+
     void killerIsLeftOut_data()
     {
+        QTest::addColumn<QString>("plugin");
         QTest::addColumn<QString>("step");
-        QTest::newRow("crasher") << "init";
-        QTest::newRow("throwingload") << "loading";
+        QTest::newRow("throws") << "throwingload"
+                                << "loading";
+        for (const char *step : {"loading", "make", "init", "afterInit", "render", "second init"})
+            QTest::newRow(step) << "crasher" << step;
     }
 
     void killerIsLeftOut()
     {
+        QFETCH(QString, plugin);
         QFETCH(QString, step);
-        const QString plugin = QTest::currentDataTag();
+        qputenv("CRASHER_STEP", step.toUtf8());
+        const auto unset = qScopeGuard([] { qunsetenv("CRASHER_STEP"); });
         pluginfiles::copy(plugins(), plugin);
         pluginfiles::copy(plugins(), "sound");
         QCOMPARE(run({"--for", "1"}), -1);
         QCOMPARE(run({"--for", "0.1"}), 0);
         const QString sentence = plugin
-            + QStringLiteral(".so was left out because it took the panel down (%1): ").arg(step);
+            + QStringLiteral(".so was left out because it took the panel down (%1): ")
+                  .arg(step.section(' ', -1));
         QVERIFY(logText().contains(sentence));
         QCOMPARE(run({"--for", "0.1"}), 0); // and stays left out
         QCOMPARE(run({"--for", "0.1", "--retry", plugin}), -1);
@@ -69,8 +97,8 @@ private Q_SLOTS:
     {
         pluginfiles::copy(plugins(), "crasher");
         QCOMPARE(run({"--for", "1"}), -1);
-        qputenv("CRASHER_CORRECTED", "1");
-        const auto corrected = qScopeGuard([] { qunsetenv("CRASHER_CORRECTED"); });
+        qputenv("CRASHER_STEP", "none");
+        const auto corrected = qScopeGuard([] { qunsetenv("CRASHER_STEP"); });
         QCOMPARE(run({"--for", "0.1", "--retry", "crasher"}), 0);
         QVERIFY(logText().contains("<zeplet> 'crasher' init."));
         QVERIFY(!logText().contains("crasher.so was left out"));

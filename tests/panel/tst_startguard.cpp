@@ -28,6 +28,21 @@ private Q_SLOTS:
         QVERIFY(!guard.isLeftOut(QStringLiteral("other"), QFileInfo(m_library)));
     }
 
+    void deathInAnotherModuleOfTheLibrary()
+    {
+        {
+            StartGuard guard(runtime());
+            guard.enterLoading(name(), m_library);
+            guard.leave();
+            guard.addModule(QStringLiteral("second"), name());
+            guard.enter(QStringLiteral("second"), QStringLiteral("afterInit"));
+            copyOfRuntime();
+        }
+        StartGuard guard(copy());
+        QVERIFY(guard.isLeftOut(name(), QFileInfo(m_library)));
+        QCOMPARE(guard.fatalStep(name()), QStringLiteral("afterInit"));
+    }
+
     void staysLeftOutUntilItChanges()
     {
         die(QStringLiteral("loading"));
@@ -55,7 +70,7 @@ private Q_SLOTS:
     {
         {
             StartGuard guard(runtime());
-            guard.enter(name(), QStringLiteral("loading"), m_library);
+            guard.enterLoading(name(), m_library);
             guard.leave();
             guard.enter(QStringLiteral("host"), QStringLiteral("init")); // has no library
             copyOfRuntime();
@@ -67,12 +82,12 @@ private Q_SLOTS:
     void secondPanelKeepsOut()
     {
         StartGuard first(runtime());
-        first.enter(name(), QStringLiteral("init"), m_library);
+        first.enterLoading(name(), m_library);
         {
             StartGuard second(runtime());
             QVERIFY(!second.isActive());
             QVERIFY(!second.isLeftOut(name(), QFileInfo(m_library)));
-            second.enter(QStringLiteral("other"), QStringLiteral("init"), m_library);
+            second.enterLoading(QStringLiteral("other"), m_library);
         }
         copyOfRuntime();
         QVERIFY(StartGuard(copy()).isLeftOut(name(), QFileInfo(m_library)));
@@ -124,7 +139,9 @@ private:
     {
         {
             StartGuard guard(runtime());
-            guard.enter(name(), step, m_library);
+            guard.enterLoading(name(), m_library);
+            guard.leave();
+            guard.enter(name(), step);
             copyOfRuntime();
         }
         QDir(runtime()).removeRecursively();

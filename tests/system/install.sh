@@ -15,10 +15,19 @@ if find "$work/prefix" -name '*_p.h' | grep .; then
     exit 1
 fi
 
+if [ "$(ls "$work/prefix/lib/zeplet/plugins")" != monitor.so ]; then
+    echo "an installed panel is to find the examples and nothing else:" >&2
+    ls "$work/prefix/lib/zeplet/plugins" >&2
+    exit 1
+fi
+
 # A copy outside the project proves that it needs nothing but the installation.
 cp -r "$root/examples/monitor" "$work/monitor"
 cmake -S "$work/monitor" -B "$work/monitor/build" "${options[@]}" >/dev/null
 cmake --build "$work/monitor/build"
+QT_QPA_PLATFORM=offscreen "$work/prefix/bin/zeplet-panel" --runtime "$work/run" \
+    --plugins "$work/monitor/build/plugins" --for 0.5
+grep "'monitor' init" "$work"/run/log/zeplet_*.log
 
 cmake -S "$root" -B "$work/library" "${options[@]}" -DZEPLET_HOST=ZepletHost >/dev/null
 cmake --build "$work/library"

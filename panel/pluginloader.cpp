@@ -179,11 +179,13 @@ QStringList PluginLoader::moduleNames() const
 
 void PluginLoader::markFaulty(const QString &module, const QString &cause)
 {
+    const QString sentence = withRemedy(cause);
+    errorLine() << sentence;
     for (PluginRecord &record : m_records) {
         if (!record.modules.contains(module))
             continue;
         record.state = PluginRecord::Faulty;
-        record.sentence = withRemedy(cause);
+        record.sentence = sentence;
     }
     mirror();
 }

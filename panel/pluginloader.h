@@ -33,8 +33,7 @@ public:
     /** The modules that the loaded libraries offer, in the order of loading. */
     QStringList moduleNames() const;
 
-    /** Marks the plugin of that module as one that no longer runs; cause is said to the operator.
-     */
+    /** Logs the cause and marks the plugin of that module as one that no longer runs. */
     void markFaulty(const QString &module, const QString &cause);
     /** Lets a plugin that was left out take part in the next start. */
     void tryAgain(const QString &name);

@@ -65,6 +65,13 @@ private Q_SLOTS:
         QVERIFY2(m_output.contains(sentence), qPrintable(m_output));
     }
 
+    void faultyPluginIsLogged()
+    {
+        pluginfiles::copy(plugins(), "throwinginit");
+        QCOMPARE(run({"--for", "0.1"}), 0);
+        QVERIFY(logText().contains("\"throwinginit\" failed in init: no gripper is mounted; "));
+    }
+
     void killerIsLeftOut_data()
     {
         QTest::addColumn<QString>("plugin");

@@ -20,30 +20,12 @@ class TestBModule : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void joinsKeys()
-    {
-        QCOMPARE(mName("brisa.msg", "_"), QString("brisa.msg._"));
-        QCOMPARE(mName("ostrel", "zeplet", "demo"), QString("ostrel.zeplet.demo"));
-    }
-
     void isFoundUnderItsKeyOnly()
     {
-        BoundModule module("ostrel.zeplet.demo");
-        QCOMPARE(bModule("ostrel.zeplet.demo"), &module);
-        QCOMPARE(bModule("ostrel.zeplet.Demo"), nullptr);
-        QCOMPARE(bModule(""), nullptr);
-        QCOMPARE(module.mobj(), m("ostrel.zeplet.demo"));
-    }
-
-    void hasNoNodeBeforeItIsBound()
-    {
-        kest::BModule module;
-        QCOMPARE(module.mobj(), nullptr);
-    }
-
-    void leavesItsOldKeyWhenBoundAgain()
-    {
         BoundModule module("first");
+        QCOMPARE(bModule("first"), &module);
+        QCOMPARE(bModule("First"), nullptr);
+        QCOMPARE(bModule(""), nullptr);
         module.bindMobj("second");
         QCOMPARE(bModule("first"), nullptr);
         QCOMPARE(bModule("second"), &module);

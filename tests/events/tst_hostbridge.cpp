@@ -2,6 +2,7 @@
 #include <zeplet/events/zepleteventsystem.h>
 #include <zeplet/interface/interfacemanager.h>
 
+#include <QElapsedTimer>
 #include <QTest>
 
 using namespace zeplet;
@@ -33,6 +34,8 @@ void TestHostBridge::initTestCase()
 {
     connect(zepletEvent(), &ZepletEventSystem::eventPublished, this,
             [](const ZepletEvent &event) { received.append(event); });
+    QElapsedTimer sinceConstruction;
+    sinceConstruction.start();
     Q_EMIT zepletInterface()->sigNetworkConnect();
     QVERIFY2(received.isEmpty(), "the bridge is registered some time after construction");
 
@@ -43,6 +46,7 @@ void TestHostBridge::initTestCase()
         return !received.isEmpty();
     }());
     QCOMPARE(received.size(), 1);
+    QVERIFY(sinceConstruction.elapsed() >= 100);
     received.clear();
 }
 

@@ -30,6 +30,8 @@ void TestZepletEventFilters::bySource_data()
                                                  << "" << true;
     QTest::newRow("any text") << "sys*"
                               << "system" << true;
+    QTest::newRow("no text at all") << "sys*"
+                                    << "sys" << true;
     QTest::newRow("not anchored") << "sys*"
                                   << "mysystem" << true;
     QTest::newRow("other case") << "sys*"

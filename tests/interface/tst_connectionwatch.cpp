@@ -17,6 +17,7 @@ class TestConnectionWatch : public QObject
 private Q_SLOTS:
     void theSecondLinkReportsTheNetwork_data();
     void theSecondLinkReportsTheNetwork();
+    void aLossTellsWhetherItWasOnPurpose();
 
 private:
     void takeStep(QChar step);
@@ -92,6 +93,15 @@ void TestConnectionWatch::theSecondLinkReportsTheNetwork()
     QCOMPARE(down.count(), disconnected);
     if (disconnected)
         QCOMPARE(down.at(0).at(0).toBool(), false);
+}
+
+void TestConnectionWatch::aLossTellsWhetherItWasOnPurpose()
+{
+    m_controller.setControllerUp(true);
+    QSignalSpy down(zepletInterface(), &InterfaceManager::sigNetworkDisConnect);
+    FakeController::manager()->close();
+    QTRY_COMPARE(down.count(), 1);
+    QCOMPARE(down.at(0).at(0).toBool(), true);
 }
 
 QTEST_MAIN(TestConnectionWatch)

@@ -55,8 +55,11 @@ Connection::~Connection()
     if (!m_socket)
         return;
     m_socket->disconnect(this);
-    m_socket->close(QWebSocketProtocol::CloseCodeGoingAway,
-                    QStringLiteral("the panel closed the link"));
+    if (m_session)
+        m_socket->close(QWebSocketProtocol::CloseCodeGoingAway,
+                        QStringLiteral("the panel closed the link"));
+    else
+        m_socket->abort(); // nothing can be told to a peer that was not reached yet
 }
 
 bool Connection::event(QEvent *event)

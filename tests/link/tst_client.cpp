@@ -66,6 +66,7 @@ private Q_SLOTS:
     void reconnectsByItself();
     void peerThatIsNotThere();
     void closeIsExpected();
+    void closeDuringAnAttempt();
     void closeInsideADelivery();
     void throwingReceiverDoesNoHarm();
     void handlerWithAnEventLoop();
@@ -401,6 +402,18 @@ void TestClient::closeIsExpected()
     QCOMPARE(down.size(), 1);
     QTRY_COMPARE(m_peer->clients(), 0);
     QCOMPARE(m_peer->closeReason(), QStringLiteral("the panel closed the link"));
+}
+
+// Nothing is said to a peer that was not reached yet: Qt would warn of it.
+void TestClient::closeDuringAnAttempt()
+{
+    QSignalSpy up(m_client.data(), &Client::up);
+    for (int i = 0; i < 50; ++i) {
+        m_client->open(m_peer->url());
+        m_client->close();
+    }
+    m_client->open(m_peer->url());
+    QVERIFY(up.wait());
 }
 
 void TestClient::closeInsideADelivery()

@@ -2,7 +2,6 @@
 
 #include <QJsonDocument>
 #include <QtTest>
-#include <algorithm>
 
 TestClient::TestClient(quint16 port)
 {
@@ -23,12 +22,12 @@ int TestClient::send(const QString &method, const QJsonValue &params)
 {
     const int id = ++m_lastId;
     QJsonObject request {
-        {QStringLiteral("jsonrpc"), QStringLiteral("2.0")},
-        {QStringLiteral("id"), id},
-        {QStringLiteral("method"), method},
+        {"jsonrpc", "2.0"},
+        {"id", id},
+        {"method", method},
     };
     if (!params.isUndefined())
-        request.insert(QStringLiteral("params"), params);
+        request.insert("params", params);
     socket.sendTextMessage(
         QString::fromUtf8(QJsonDocument(request).toJson(QJsonDocument::Compact)));
     return id;
@@ -39,13 +38,11 @@ QJsonObject TestClient::call(const QString &method, const QJsonValue &params)
     const int id = send(method, params);
     QJsonObject found;
     const auto arrived = [this, id, &found] {
-        const auto match
-            = std::find_if(answers.cbegin(), answers.cend(), [id](const QJsonObject &answer) {
-                  return answer.value(QStringLiteral("id")).toInt() == id;
-              });
-        if (match != answers.cend())
-            found = *match;
-        return match != answers.cend();
+        for (const QJsonObject &answer : qAsConst(answers)) {
+            if (found.isEmpty() && answer["id"].toInt() == id)
+                found = answer;
+        }
+        return !found.isEmpty();
     };
     return QTest::qWaitFor(arrived) ? found : QJsonObject();
 }
@@ -55,13 +52,20 @@ void TestClient::read(const QString &text)
     const QJsonObject object = QJsonDocument::fromJson(text.toUtf8()).object();
     if (object.isEmpty())
         garbage += text;
-    else if (object.contains(QStringLiteral("id")))
+    else if (object.contains("id"))
         answers += object;
     else
         notifications += object;
 }
 
-QJsonObject json(const char *text)
+ConnectedClient::ConnectedClient(quint16 port)
+    : TestClient(port)
+{
+    if (!waitConnected())
+        qFatal("%s", qPrintable(socket.errorString()));
+}
+
+QJsonObject json(const QByteArray &text)
 {
     return QJsonDocument::fromJson(text).object();
 }

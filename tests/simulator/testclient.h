@@ -35,5 +35,12 @@ private:
     int m_lastId = 0;
 };
 
+/** A client whose connection stands; ends the test where it does not come about. */
+class ConnectedClient : public TestClient
+{
+public:
+    explicit ConnectedClient(quint16 port);
+};
+
 /** An object from its text. */
-QJsonObject json(const char *text);
+QJsonObject json(const QByteArray &text);

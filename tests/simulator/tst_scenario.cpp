@@ -10,19 +10,10 @@ class TestScenario : public QObject
     Q_OBJECT
 
 private slots:
-    void everyMember();
-    void defaults();
-    void errors_data();
-    void errors();
-    void fileErrors();
-    void shippedFiles_data();
-    void shippedFiles();
-};
-
-void TestScenario::everyMember()
-{
-    QString error;
-    const auto scenario = Scenario::fromText(R"({
+    void everyMember()
+    {
+        QString error;
+        const auto scenario = Scenario::fromText(R"({
         "robot": {"power": "on", "mode": "auto", "state": "program", "level": 7, "id": "R",
                   "version": "3.10.1", "robot": "SEVEN", "robot_template": 4},
         "hub": {"a": {"b": [1, null]}},
@@ -33,131 +24,132 @@ void TestScenario::everyMember()
         "timeline": [{"after": 5, "do": "set power off"},
                      {"every": 20, "do": ["program stop", "notify p 1"]}]
     })",
-                                             &error);
-    QVERIFY2(scenario.has_value(), qPrintable(error));
-    QVERIFY(scenario->robot.power && scenario->robot.automatic && scenario->robot.program);
-    QCOMPARE(scenario->robot.level, 7);
-    QCOMPARE(scenario->robot.id, QStringLiteral("R"));
-    QCOMPARE(scenario->robot.version, QStringLiteral("3.10.1"));
-    QCOMPARE(scenario->robot.robot, QStringLiteral("SEVEN"));
-    QCOMPARE(scenario->robot.robotTemplate, 4);
-    QCOMPARE(scenario->hub["a"]["b"], QJsonValue(QJsonArray {1, QJsonValue()}));
-    QCOMPARE(scenario->answers.controller.value("x.y"), QJsonValue(1));
-    QCOMPARE(scenario->answers.hub.value("k", 1), QJsonValue());
-    QCOMPARE(scenario->answers.plugin.value("p"), QJsonValue(QJsonArray {2}));
-    QCOMPARE(scenario->faults.size(), 3);
-    QCOMPARE(scenario->faults[0].command, QStringLiteral("x.y"));
-    QCOMPARE(scenario->faults[0].times, 2);
-    QCOMPARE(scenario->faults[0].ms, 30);
-    QCOMPARE(scenario->faults[1].answer, QJsonValue(QJsonObject {{"odd", true}}));
-    QCOMPARE(scenario->faults[2].ms, 50);
-    QCOMPARE(scenario->timeline[0].after, 5);
-    QCOMPARE(scenario->timeline[0].every, 0);
-    QCOMPARE(scenario->timeline[1].after, 20);
-    QCOMPARE(scenario->timeline[1].lines.size(), 2);
-}
+                                                 &error);
+        QVERIFY2(scenario.has_value(), qPrintable(error));
+        QVERIFY(scenario->robot.power && scenario->robot.automatic && scenario->robot.program);
+        QCOMPARE(scenario->robot.level, 7);
+        QCOMPARE(scenario->robot.id, QStringLiteral("R"));
+        QCOMPARE(scenario->robot.version, QStringLiteral("3.10.1"));
+        QCOMPARE(scenario->robot.robot, QStringLiteral("SEVEN"));
+        QCOMPARE(scenario->robot.robotTemplate, 4);
+        QCOMPARE(scenario->hub["a"]["b"], QJsonValue(QJsonArray {1, QJsonValue()}));
+        QCOMPARE(scenario->answers.controller.value("x.y"), QJsonValue(1));
+        QCOMPARE(scenario->answers.hub.value("k", 1), QJsonValue());
+        QCOMPARE(scenario->answers.plugin.value("p"), QJsonValue(QJsonArray {2}));
+        QCOMPARE(scenario->faults.size(), 3);
+        QCOMPARE(scenario->faults[0].command, QStringLiteral("x.y"));
+        QCOMPARE(scenario->faults[0].times, 2);
+        QCOMPARE(scenario->faults[0].ms, 30);
+        QCOMPARE(scenario->faults[1].answer, QJsonValue(QJsonObject {{"odd", true}}));
+        QCOMPARE(scenario->faults[2].ms, 50);
+        QCOMPARE(scenario->timeline[0].after, 5);
+        QCOMPARE(scenario->timeline[0].every, 0);
+        QCOMPARE(scenario->timeline[1].after, 20);
+        QCOMPARE(scenario->timeline[1].lines.size(), 2);
+    }
 
-void TestScenario::defaults()
-{
-    QString error;
-    const auto scenario = Scenario::fromText(R"({"faults": [{"fault": "late_answer"}]})", &error);
-    QVERIFY2(scenario.has_value(), qPrintable(error));
-    QVERIFY(!scenario->robot.power && !scenario->robot.automatic && !scenario->robot.program);
-    QCOMPARE(scenario->faults[0].ms, simulator::Faults::kDefaultDelay);
-    QCOMPARE(scenario->faults[0].times, 0);
-    QVERIFY(scenario->faults[0].command.isEmpty());
-}
+    void defaults()
+    {
+        QString error;
+        const auto scenario
+            = Scenario::fromText(R"({"faults": [{"fault": "late_answer"}]})", &error);
+        QVERIFY2(scenario.has_value(), qPrintable(error));
+        QVERIFY(!scenario->robot.power && !scenario->robot.automatic && !scenario->robot.program);
+        QCOMPARE(scenario->faults[0].ms, simulator::Faults::kDefaultDelay);
+        QCOMPARE(scenario->faults[0].times, 0);
+        QVERIFY(scenario->faults[0].command.isEmpty());
+    }
 
-void TestScenario::errors_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("start"); ///< of the error: the path or the place
-    QTest::addColumn<QString>("part");
+    void errors_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("start"); ///< of the error: the path or the place
+        QTest::addColumn<QString>("part");
 
-    const auto row = [](const char *name, const char *text, const char *start, const char *part) {
-        QTest::newRow(name) << QByteArray(text) << QString(start) << QString(part);
-    };
-    row("broken text", "{\n  \"robot\": }", "line 2, column 1", "object");
-    row("empty text", "", "line 1", "");
-    row("not an object", "[]", "expected an object", "array");
-    row("unknown member", R"({"robots": {}})", "robots: ", "unknown member");
-    row("unknown member below", R"({"robot": {"pwer": "on"}})", "robot.pwer: ", "unknown member");
-    row("not an object below", R"({"robot": 3})", "robot: ", "found a number");
-    row("no such choice", R"({"robot": {"power": "ON"}})", "robot.power: ", "off, on");
-    row("choice of a wrong type", R"({"robot": {"mode": 1}})", "robot.mode: ", "a text");
-    row("fraction", R"({"robot": {"level": 1.5}})", "robot.level: ", "found 1.5");
-    row("below the range", R"({"robot": {"level": -1}})", "robot.level: ", "from 0");
-    row("above the range", R"({"robot": {"level": 1e12}})", "robot.level: ", "integer");
-    row("text for a number", R"({"robot": {"level": "3"}})", "robot.level: ", "found a text");
-    row("number for a text", R"({"robot": {"id": 3}})", "robot.id: ", "found a number");
-    row("impossible state", R"({"robot": {"state": "program"}})", "robot.state: ", "motors");
-    row("hub is no object", R"({"hub": []})", "hub: ", "found an array");
-    row("dot in a step", R"({"hub": {"a": {"b.c": 1}}})", "hub.a.b.c: ", "without dots");
-    row("empty step", R"({"hub": {"": 1}})", "hub.: ", "without dots");
-    row("unknown answers", R"({"answers": {"robot": {}}})", "answers.robot: ", "unknown member");
-    row("plugin answer", R"({"answers": {"plugin": {"p": 1}}})", "answers.plugin.p: ", "an array");
-    row("faults is no array", R"({"faults": {}})", "faults: ", "an array");
-    row("fault is no object", R"({"faults": ["silent"]})", "faults[0]: ", "an object");
-    row("unknown fault", R"({"faults": [{"fault": "silent"}, {"fault": "late"}]})",
-        "faults[1].fault: ", "unknown fault 'late' (known: no_answer");
-    row("no fault named", R"({"faults": [{"ms": 1}]})", "faults[0].fault: ", "unknown fault ''");
-    row("times of nought", R"({"faults": [{"fault": "refusal", "times": 0}]})",
-        "faults[0].times: ", "from 1");
-    row("command of a condition", R"({"faults": [{"fault": "hub_down", "command": "x"}]})",
-        "faults[0].command: ", "does not go");
-    row("delay of a refusal", R"({"faults": [{"fault": "refusal", "ms": 3}]})",
-        "faults[0].ms: ", "does not go");
-    row("nothing to do", R"({"timeline": [{"after": 1}]})", "timeline[0].do: ", "control line");
-    row("nothing in the list", R"({"timeline": [{"do": []}]})", "timeline[0].do: ", "at least one");
-    row("unknown line", R"({"timeline": [{"do": ["state", "jump"]}]})",
-        "timeline[0].do[1]: ", "unknown control command 'jump'");
-    row("wrong line", R"({"timeline": [{"do": "set power maybe"}]})", "timeline[0].do: ", "usage");
-    row("quit is for people", R"({"timeline": [{"do": "quit"}]})", "timeline[0].do: ", "unknown");
-    row("too fast", R"({"timeline": [{"every": 1, "do": "state"}]})", "timeline[0].every: ", "10");
-}
+        const auto row
+            = [](const char *name, const char *text, const char *start, const char *part) {
+                  QTest::newRow(name) << QByteArray(text) << QString(start) << QString(part);
+              };
+        row("broken text", "{\n  \"robot\": }", "line 2, column 1", "object");
+        row("not an object", "[]", "expected an object", "array");
+        row("unknown member", R"({"robots": {}})", "robots: ", "unknown member");
+        row("unknown member below", R"({"robot": {"pwer": "on"}})",
+            "robot.pwer: ", "unknown member");
+        row("no such choice", R"({"robot": {"power": "ON"}})", "robot.power: ", "off, on");
+        row("fraction", R"({"robot": {"level": 1.5}})", "robot.level: ", "found 1.5");
+        row("below the range", R"({"robot": {"level": -1}})", "robot.level: ", "from 0");
+        row("above the range", R"({"robot": {"level": 1e12}})", "robot.level: ", "integer");
+        row("number for a text", R"({"robot": {"id": 3}})", "robot.id: ", "found a number");
+        row("impossible state", R"({"robot": {"state": "program"}})", "robot.state: ", "motors");
+        row("hub is no object", R"({"hub": []})", "hub: ", "found an array");
+        row("dot in a step", R"({"hub": {"a": {"b.c": 1}}})", "hub.a.b.c: ", "without dots");
+        row("unknown answers", R"({"answers": {"robot": {}}})",
+            "answers.robot: ", "unknown member");
+        row("plugin answer", R"({"answers": {"plugin": {"p": 1}}})",
+            "answers.plugin.p: ", "an array");
+        row("fault is no object", R"({"faults": ["silent"]})", "faults[0]: ", "an object");
+        row("unknown fault", R"({"faults": [{"fault": "silent"}, {"fault": "late"}]})",
+            "faults[1].fault: ", "unknown fault 'late' (known: no_answer");
+        row("no fault named", R"({"faults": [{"ms": 1}]})",
+            "faults[0].fault: ", "unknown fault ''");
+        row("times of nought", R"({"faults": [{"fault": "refusal", "times": 0}]})",
+            "faults[0].times: ", "from 1");
+        row("command of a condition", R"({"faults": [{"fault": "hub_down", "command": "x"}]})",
+            "faults[0].command: ", "does not go");
+        row("delay of a refusal", R"({"faults": [{"fault": "refusal", "ms": 3}]})",
+            "faults[0].ms: ", "does not go");
+        row("nothing to do", R"({"timeline": [{"after": 1}]})", "timeline[0].do: ", "control line");
+        row("unknown line", R"({"timeline": [{"do": ["state", "jump"]}]})",
+            "timeline[0].do[1]: ", "unknown control command 'jump'");
+        row("quit is for people", R"({"timeline": [{"do": "quit"}]})",
+            "timeline[0].do: ", "unknown");
+        row("too fast", R"({"timeline": [{"every": 1, "do": "state"}]})",
+            "timeline[0].every: ", "10");
+    }
 
-void TestScenario::errors()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, start);
-    QFETCH(QString, part);
-    QString error;
-    QVERIFY(!Scenario::fromText(text, &error).has_value());
-    QVERIFY2(error.startsWith(start) && error.contains(part), qPrintable(error));
-    QVERIFY2(!error.contains('\n'), qPrintable(error));
-}
+    void errors()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, start);
+        QFETCH(QString, part);
+        QString error;
+        QVERIFY(!Scenario::fromText(text, &error).has_value());
+        QVERIFY2(error.startsWith(start) && error.contains(part), qPrintable(error));
+        QVERIFY2(!error.contains('\n'), qPrintable(error));
+    }
 
-void TestScenario::fileErrors()
-{
-    QTemporaryDir directory;
-    const QString path = directory.filePath("broken.json");
-    QString error;
-    QVERIFY(!Scenario::fromFile(path, &error).has_value());
-    QVERIFY2(error.startsWith(path + ": "), qPrintable(error));
+    void fileErrors()
+    {
+        QTemporaryDir directory;
+        const QString path = directory.filePath("broken.json");
+        QString error;
+        QVERIFY(!Scenario::fromFile(path, &error).has_value());
+        QVERIFY2(error.startsWith(path + ": "), qPrintable(error));
 
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"({"robot": {"level": "x"}})");
-    file.close();
-    QVERIFY(!Scenario::fromFile(path, &error).has_value());
-    QVERIFY2(error.startsWith(path + ": robot.level: "), qPrintable(error));
-}
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(R"({"robot": {"level": "x"}})");
+        file.close();
+        QVERIFY(!Scenario::fromFile(path, &error).has_value());
+        QVERIFY2(error.startsWith(path + ": robot.level: "), qPrintable(error));
+    }
 
-void TestScenario::shippedFiles_data()
-{
-    QTest::addColumn<QString>("path");
-    const QFileInfoList files = QDir(QStringLiteral(SCENARIOS)).entryInfoList({"*.json"});
-    QVERIFY(files.size() >= 3);
-    for (const QFileInfo &file : files)
-        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
-}
+    void shippedFiles_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QFileInfoList files = QDir(QStringLiteral(SCENARIOS)).entryInfoList({"*.json"});
+        QVERIFY(files.size() >= 3);
+        for (const QFileInfo &file : files)
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
 
-void TestScenario::shippedFiles()
-{
-    QFETCH(QString, path);
-    QString error;
-    QVERIFY2(Scenario::fromFile(path, &error).has_value(), qPrintable(error));
-}
+    void shippedFiles()
+    {
+        QFETCH(QString, path);
+        QString error;
+        QVERIFY2(Scenario::fromFile(path, &error).has_value(), qPrintable(error));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestScenario)
 #include "tst_scenario.moc"

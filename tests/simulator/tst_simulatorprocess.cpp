@@ -7,23 +7,6 @@
 #include <QtTest>
 #include <csignal>
 
-/** The executable: its options, its lines on the standard streams, how it ends. */
-class TestSimulatorProcess : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void controlledByLines();
-    void trace();
-    void ends_data();
-    void ends();
-    void livesOnAfterEof();
-    void refusesToStart_data();
-    void refusesToStart();
-    void portInUse();
-    void demoLooksAlive();
-};
-
 namespace
 {
 /** A running simulator; the test fails in ready() where it did not start. */
@@ -59,7 +42,7 @@ public:
     QJsonObject ask(const QByteArray &control)
     {
         process.write(control + '\n');
-        return json(line().toUtf8().constData());
+        return json(line().toUtf8());
     }
     bool finished()
     {
@@ -73,138 +56,142 @@ public:
 };
 } // namespace
 
-void TestSimulatorProcess::controlledByLines()
+/** The executable: its options, its lines on the standard streams, how it ends. */
+class TestSimulatorProcess : public QObject
 {
-    Running running;
-    QVERIFY(running.ready());
-    QVERIFY(running.controllerPort != 0 && running.hubPort != 0);
-    TestClient client(running.controllerPort);
-    QVERIFY(client.waitConnected());
-    QCOMPARE(running.ask("program start"),
-             json(R"({"ok": false, "error": "a program cannot start while the motors are off"})"));
-    QCOMPARE(running.ask("set power on\r"), json(R"({"ok": true, "result": true})"));
-    QTRY_COMPARE(client.notifications.size(), 1);
-    client.call("system.state.get");
-    QCOMPARE(running.ask("\ncount system.state.get"), json(R"({"ok": true, "result": 1})"));
-    QCOMPARE(running.ask("fault nonsense")["ok"], QJsonValue(false));
+    Q_OBJECT
 
-    running.process.write("hub set a "); // a line may come in pieces, or several in one
-    running.process.waitForBytesWritten();
-    QCOMPARE(running.ask("1"), json(R"({"ok": true, "result": true})"));
-    QCOMPARE(running.ask("hub get a\nhub get b"), json(R"({"ok": true, "result": 1})"));
-    QCOMPARE(json(running.line().toUtf8().constData()), json(R"({"ok": true, "result": null})"));
-    QCOMPARE(running.process.readAllStandardError(), QByteArray());
-}
+private slots:
+    void controlledByLines()
+    {
+        Running running;
+        QVERIFY(running.ready());
+        QVERIFY(running.controllerPort != 0 && running.hubPort != 0);
+        ConnectedClient client(running.controllerPort);
+        QCOMPARE(
+            running.ask("program start"),
+            json(R"({"ok": false, "error": "a program cannot start while the motors are off"})"));
+        QCOMPARE(running.ask("set power on\r"), json(R"({"ok": true, "result": true})"));
+        QTRY_COMPARE(client.notifications.size(), 1);
+        client.call("system.state.get");
+        QCOMPARE(running.ask("\ncount system.state.get"), json(R"({"ok": true, "result": 1})"));
+        QCOMPARE(running.ask("fault nonsense")["ok"], QJsonValue(false));
 
-void TestSimulatorProcess::trace()
-{
-    Running running({"--trace"});
-    QVERIFY(running.ready());
-    TestClient client(running.hubPort);
-    QVERIFY(client.waitConnected());
-    client.call("hub.watch", json(R"({"key": "a.b", "on": true})"));
-    client.socket.sendTextMessage("nonsense");
-    QTRY_VERIFY(!client.isConnected());
-    QVERIFY(running.ask("quit")["ok"].toBool());
-    QVERIFY(running.finished());
-    const QString traced = QString::fromUtf8(running.process.readAllStandardError());
-    QVERIFY2(traced.contains(QRegularExpression("hub received \\{.*\"hub.watch\"")),
-             qPrintable(traced));
-    QVERIFY2(traced.contains("hub received nonsense\n"), qPrintable(traced));
-    QVERIFY2(traced.contains("zeplet-simulator: hub: client closed: "), qPrintable(traced));
-}
+        running.process.write("hub set a "); // a line may come in pieces, or several in one
+        running.process.waitForBytesWritten();
+        QCOMPARE(running.ask("1"), json(R"({"ok": true, "result": true})"));
+        QCOMPARE(running.ask("hub get a\nhub get b"), json(R"({"ok": true, "result": 1})"));
+        QCOMPARE(json(running.line().toUtf8()), json(R"({"ok": true, "result": null})"));
+        QCOMPARE(running.process.readAllStandardError(), QByteArray());
+    }
 
-void TestSimulatorProcess::ends_data()
-{
-    QTest::addColumn<int>("signalNumber"); ///< 0: by what is written
-    QTest::addColumn<bool>("closesInput");
-    QTest::newRow("SIGTERM") << SIGTERM << false;
-    QTest::newRow("SIGINT") << SIGINT << false;
-    QTest::newRow("quit") << 0 << false;
-    QTest::newRow("end of input") << 0 << true;
-}
+    void trace()
+    {
+        Running running({"--trace"});
+        QVERIFY(running.ready());
+        ConnectedClient client(running.hubPort);
+        client.call("hub.watch", json(R"({"key": "a.b", "on": true})"));
+        client.socket.sendTextMessage("nonsense");
+        QTRY_VERIFY(!client.isConnected());
+        QVERIFY(running.ask("quit")["ok"].toBool());
+        QVERIFY(running.finished());
+        const QString traced = QString::fromUtf8(running.process.readAllStandardError());
+        QVERIFY2(traced.contains(QRegularExpression("hub received \\{.*\"hub.watch\"")),
+                 qPrintable(traced));
+        QVERIFY2(traced.contains("hub received nonsense\n"), qPrintable(traced));
+        QVERIFY2(traced.contains("zeplet-simulator: hub: client closed: "), qPrintable(traced));
+    }
 
-void TestSimulatorProcess::ends()
-{
-    QFETCH(int, signalNumber);
-    QFETCH(bool, closesInput);
-    Running running({"--until-eof"});
-    QVERIFY(running.ready());
-    TestClient client(running.controllerPort);
-    QVERIFY(client.waitConnected());
-    if (signalNumber != 0)
-        ::kill(static_cast<pid_t>(running.process.processId()), signalNumber);
-    else if (closesInput)
+    void ends_data()
+    {
+        QTest::addColumn<int>("signalNumber"); ///< 0: by what is written
+        QTest::addColumn<bool>("closesInput");
+        QTest::newRow("SIGTERM") << SIGTERM << false;
+        QTest::newRow("SIGINT") << SIGINT << false;
+        QTest::newRow("quit") << 0 << false;
+        QTest::newRow("end of input") << 0 << true;
+    }
+
+    void ends()
+    {
+        QFETCH(int, signalNumber);
+        QFETCH(bool, closesInput);
+        Running running({"--until-eof"});
+        QVERIFY(running.ready());
+        ConnectedClient client(running.controllerPort);
+        if (signalNumber != 0)
+            ::kill(static_cast<pid_t>(running.process.processId()), signalNumber);
+        else if (closesInput)
+            running.process.closeWriteChannel();
+        else
+            running.process.write("quit\n");
+        QVERIFY(running.finished());
+        QCOMPARE(running.process.exitCode(), 0);
+        QTRY_VERIFY(!client.isConnected());
+    }
+
+    void livesOnAfterEof()
+    {
+        Running running;
+        QVERIFY(running.ready());
+        QVERIFY(running.ask("set level 6")["ok"].toBool()); // its input works; now it ends
         running.process.closeWriteChannel();
-    else
-        running.process.write("quit\n");
-    QVERIFY(running.finished());
-    QCOMPARE(running.process.exitCode(), 0);
-    QTRY_VERIFY(!client.isConnected());
-}
+        ConnectedClient client(running.controllerPort);
+        QCOMPARE(client.call("system.state.get").value("result")["level"], QJsonValue(6));
+        QCOMPARE(running.process.state(), QProcess::Running);
+    }
 
-void TestSimulatorProcess::livesOnAfterEof()
-{
-    Running running;
-    QVERIFY(running.ready());
-    QVERIFY(running.ask("set level 6")["ok"].toBool()); // its input works; now it ends
-    running.process.closeWriteChannel();
-    TestClient client(running.controllerPort);
-    QVERIFY(client.waitConnected());
-    QCOMPARE(client.call("system.state.get").value("result")["level"], QJsonValue(6));
-    QCOMPARE(running.process.state(), QProcess::Running);
-}
+    void refusesToStart_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("unknown option") << QStringList {"--sleep"} << 2 << "sleep";
+        QTest::newRow("word") << QStringList {"demo.json"} << 2 << "'demo.json'";
+        QTest::newRow("port") << QStringList {"--port", "65536"} << 2 << "'65536'";
+        QTest::newRow("hub port") << QStringList {"--hub-port", "x"} << 2 << "'x'";
+        QTest::newRow("no such file")
+            << QStringList {"--scenario", "missing.json"} << 1 << "missing.json: ";
+        QTest::newRow("broken file") << QStringList {"--scenario", SIMULATOR} << 1 << "line 1";
+    }
 
-void TestSimulatorProcess::refusesToStart_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("error");
-    QTest::newRow("unknown option") << QStringList {"--sleep"} << 2 << "sleep";
-    QTest::newRow("word") << QStringList {"demo.json"} << 2 << "'demo.json'";
-    QTest::newRow("port") << QStringList {"--port", "65536"} << 2 << "'65536'";
-    QTest::newRow("hub port") << QStringList {"--hub-port", "x"} << 2 << "'x'";
-    QTest::newRow("no such file") << QStringList {"--scenario", "missing.json"} << 1
-                                  << "missing.json: ";
-    QTest::newRow("broken file") << QStringList {"--scenario", SIMULATOR} << 1 << "line 1";
-}
+    void refusesToStart()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, error);
+        Running running(arguments);
+        QVERIFY(running.finished());
+        QCOMPARE(running.process.exitCode(), exitCode);
+        QCOMPARE(running.process.readAllStandardOutput(), QByteArray());
+        const QString text = QString::fromUtf8(running.process.readAllStandardError());
+        QVERIFY2(text.contains(error) && text.count('\n') == 1, qPrintable(text));
+    }
 
-void TestSimulatorProcess::refusesToStart()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, exitCode);
-    QFETCH(QString, error);
-    Running running(arguments);
-    QVERIFY(running.finished());
-    QCOMPARE(running.process.exitCode(), exitCode);
-    QCOMPARE(running.process.readAllStandardOutput(), QByteArray());
-    const QString text = QString::fromUtf8(running.process.readAllStandardError());
-    QVERIFY2(text.contains(error) && text.count('\n') == 1, qPrintable(text));
-}
+    void portInUse()
+    {
+        QTcpServer occupant;
+        QVERIFY(occupant.listen(QHostAddress::LocalHost));
+        const QString port = QString::number(occupant.serverPort());
+        Running running({"--port", port});
+        QVERIFY(running.finished());
+        QCOMPARE(running.process.exitCode(), 1);
+        QVERIFY(
+            running.process.readAllStandardError().contains("controller: port " + port.toUtf8()));
+    }
 
-void TestSimulatorProcess::portInUse()
-{
-    QTcpServer occupant;
-    QVERIFY(occupant.listen(QHostAddress::LocalHost));
-    const QString port = QString::number(occupant.serverPort());
-    Running running({"--port", port});
-    QVERIFY(running.finished());
-    QCOMPARE(running.process.exitCode(), 1);
-    QVERIFY(running.process.readAllStandardError().contains("controller: port " + port.toUtf8()));
-}
-
-void TestSimulatorProcess::demoLooksAlive()
-{
-    Running running({"--scenario", SCENARIOS "/demo.json"});
-    QVERIFY(running.ready());
-    TestClient client(running.controllerPort);
-    TestClient atHub(running.hubPort);
-    QVERIFY(client.waitConnected() && atHub.waitConnected());
-    QTRY_VERIFY(client.notifications.size() >= 2 && atHub.notifications.size() >= 2);
-    QCOMPARE(client.notifications[0].value("params")["path"], QJsonValue("demo.conveyor"));
-    QCOMPARE(atHub.notifications[0].value("params")["key"], QJsonValue("demo.temperature"));
-    QCOMPARE(running.process.readAllStandardError(), QByteArray());
-}
+    void demoLooksAlive()
+    {
+        Running running({"--scenario", SCENARIOS "/demo.json"});
+        QVERIFY(running.ready());
+        ConnectedClient client(running.controllerPort);
+        ConnectedClient atHub(running.hubPort);
+        QTRY_VERIFY(client.notifications.size() >= 2 && atHub.notifications.size() >= 2);
+        QCOMPARE(client.notifications[0].value("params")["path"], QJsonValue("demo.conveyor"));
+        QCOMPARE(atHub.notifications[0].value("params")["key"], QJsonValue("demo.temperature"));
+        QCOMPARE(running.process.readAllStandardError(), QByteArray());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestSimulatorProcess)
 #include "tst_simulatorprocess.moc"

@@ -2,6 +2,7 @@
 #include <link/client.h>
 #include <link/iothread.h>
 #include <link/limits.h>
+#include <testcolumns.h>
 
 #include <QElapsedTimer>
 #include <QJsonArray>
@@ -30,10 +31,21 @@ void announce(const char *text)
     QTest::ignoreMessage(QtWarningMsg, line(text));
 }
 
-QVector<QByteArray> twice(const rpc::Message &request)
+using Frames = QVector<QByteArray>;
+
+Frames echo(const rpc::Message &request)
 {
-    const QByteArray answer = rpc::encode(rpc::Message::answer(request.id, 1));
-    return {answer, answer};
+    return {rpc::encode(rpc::Message::answer(request.id, request.params))};
+}
+
+QByteArray notification(int number)
+{
+    return rpc::encode(rpc::Message::notification("n", QJsonArray {number}));
+}
+
+QByteArray answerTo(const rpc::Message &request)
+{
+    return rpc::encode(rpc::Message::answer(request.id, true));
 }
 
 } // namespace
@@ -43,454 +55,391 @@ class TestClient : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_peer.reset(new FakePeer);
+        m_thread.reset(new rpc::IoThread);
+        m_client.reset(new Client(QStringLiteral("peer"), m_thread.data()));
+        QSignalSpy up(m_client.data(), &Client::up);
+        m_client->open(m_peer->url());
+        QVERIFY(up.wait());
+    }
 
-    void answerReachesTheCaller();
-    void answersFindTheirRequests();
-    void blockingCallEnds_data();
-    void blockingCallEnds();
-    void nothingIsDeliveredWhileACallWaits();
-    void callbackComesOnce_data();
-    void callbackComesOnce();
-    void answersNobodyWaitsForAreDropped();
-    void badPeerIsCutOff_data();
-    void badPeerIsCutOff();
-    void oversizedRequestIsNotSent();
-    void frameOfTheGreatestSizePassesBothWays();
-    void pendingRequestsAreBounded();
-    void unsentBytesAreBounded();
-    void floodEndsTheLink();
-    void silentPeerIsNoticed();
-    void slowPeerIsKept();
-    void reconnectsByItself();
-    void peerThatIsNotThere();
-    void closeIsExpected();
-    void closeDuringAnAttempt();
-    void closeInsideADelivery();
-    void throwingReceiverDoesNoHarm();
-    void handlerWithAnEventLoop();
-    void joinedThreadStartsAgain();
+    void cleanup()
+    {
+        m_client.reset();
+        m_thread.reset();
+        m_peer.reset();
+    }
+
+    void answerReachesTheCaller()
+    {
+        m_peer->script("echo", echo);
+        const QJsonObject argument {
+            {"text", QString::fromUtf8("ä€😀\n")}, {"n", 1e300}, {"z", QJsonValue()}};
+        QCOMPARE(m_client->call("echo", argument, 5000).value, QJsonValue(argument));
+    }
+
+    void answersFindTheirRequests()
+    {
+        Frames held;
+        m_peer->script("hold", [&held](const rpc::Message &request) {
+            held.prepend(rpc::encode(rpc::Message::answer(request.id, request.params)));
+            return held.size() == 3 ? held : Frames();
+        });
+        QVector<int> order;
+        for (int i = 0; i < 3; ++i) {
+            m_client->send("hold", QJsonArray {i}, 5000, [&order, i](const Answer &answer) {
+                QCOMPARE(answer.value.toArray().at(0).toInt(), i);
+                order.append(i);
+            });
+        }
+        QTRY_COMPARE(order, (QVector<int> {2, 1, 0}));
+    }
+
+    void blockingCallEnds()
+    {
+        m_peer->refuse("refused", "not in manual mode");
+        m_peer->ignore("ignored");
+        m_peer->script("lost", [](const rpc::Message &) { return Frames {"malformed"}; });
+        const Answer refused = m_client->call("refused", {}, 5000);
+        QCOMPARE(refused.status, Status::Refused);
+        QCOMPARE(refused.reason, QString("not in manual mode"));
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(m_client->call("ignored", {}, 150).status, Status::TimedOut);
+        QVERIFY(time.elapsed() >= 150 && time.elapsed() < 2000);
+        announce("^peer: link closed: malformed frame: not JSON");
+        QCOMPARE(m_client->call("lost", {}, 20000).status, Status::Lost);
+        QVERIFY(time.elapsed() < 10000);
+    }
+
+    void nothingIsDeliveredWhileACallWaits()
+    {
+        m_peer->script("late", [](const rpc::Message &request) {
+            return Frames {notification(1), notification(2), answerTo(request), notification(3)};
+        });
+        QVector<int> delivered;
+        connect(m_client.data(), &Client::notified, this,
+                [&](const QString &, const QJsonValue &params) {
+                    QCOMPARE(thread(), QThread::currentThread());
+                    delivered.append(params.toArray().at(0).toInt());
+                });
+        bool timerRan = false;
+        QTimer::singleShot(0, this, [&] { timerRan = true; });
+        QVERIFY(m_client->call("late", {}, 5000).isResult());
+        QVERIFY(delivered.isEmpty());
+        QVERIFY(!timerRan);
+        QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
+    }
+
+    void callbackComesOnce_data()
+    {
+        const auto row = testcolumns<int>("status");
+        row("answered", int(Status::Result));
+        row("refused", int(Status::Refused));
+        row("ignored", int(Status::TimedOut));
+        row("dropped", int(Status::Lost));
+        row("closed", int(Status::Lost));
+    }
+
+    void callbackComesOnce()
+    {
+        const QString method = QTest::currentDataTag();
+        m_peer->answer("answered", 5);
+        m_peer->refuse("refused", "no");
+        m_peer->ignore("ignored");
+        m_peer->ignore("dropped");
+        QVector<int> ends;
+        QVERIFY(m_client->send(method, {}, method == "ignored" ? 50 : 5000,
+                               [&](const Answer &answer) { ends.append(int(answer.status)); }));
+        QVERIFY(ends.isEmpty());
+        if (method == "closed")
+            m_client->close();
+        if (method == "dropped") {
+            QTRY_COMPARE(m_peer->received("dropped"), 1);
+            m_peer->dropClients();
+        }
+        QTRY_COMPARE(ends.size(), 1);
+        QTEST(ends.first(), "status");
+        QCoreApplication::processEvents();
+        QCOMPARE(ends.size(), 1);
+    }
+
+    void answersNobodyWaitsForAreDropped()
+    {
+        m_peer->script("twice", [](const rpc::Message &request) {
+            return Frames {answerTo(request), answerTo(request)};
+        });
+        m_peer->ignore("never");
+        m_peer->answer("fine", "fine");
+        announce("^peer: answer \\d+ dropped: nobody waits for it$");
+        QVERIFY(m_client->call("twice", {}, 5000).isResult());
+        QCOMPARE(m_client->call("never", {}, 20).status, Status::TimedOut);
+        const QJsonValue late = m_peer->last("never").id;
+        m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer(late, "late"))));
+        m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer("unasked", 1))));
+        QCOMPARE(m_client->call("fine", {}, 5000).value, QJsonValue("fine"));
+    }
+
+    void badPeerIsCutOff_data()
+    {
+        const auto row = testcolumns<QString, QByteArray, QByteArray>("kind", "frame", "reason");
+        row("not JSON", "text", "hello", "malformed frame: not JSON");
+        row("JSON, not RPC", "text", "{}", "malformed frame: not JSON-RPC 2.0");
+        row("batch", "text", "[]", "malformed frame: not a JSON object");
+        row("request", "text", R"({"jsonrpc":"2.0","id":1,"method":"do"})",
+            "a request came from the peer: do");
+        row("binary frame", "binary", {"\0\1\2", 3}, "a binary frame");
+        row("reserved opcode", "raw", "\x83\x01x", ".+");
+        row("masked frame of a server", "raw", {"\x81\x81\x61\x62\x63\x64x", 7}, ".+");
+        row("broken UTF-8", "raw", "\x81\x02\xff\xfe", ".+");
+        row("announces 2^62 bytes", "raw", {"\x81\x7f\x40\0\0\0\0\0\0\0", 10}, ".+");
+        row("announces 17 MiB", "raw", {"\x81\x7f\0\0\0\0\x01\x10\0\0", 10}, ".+");
+    }
+
+    void badPeerIsCutOff()
+    {
+        QFETCH(QByteArray, frame);
+        QFETCH(QString, kind);
+        QFETCH(QByteArray, reason);
+        announce(QByteArray("^peer: link closed: " + reason).constData());
+        QSignalSpy down(m_client.data(), &Client::down);
+        QSignalSpy up(m_client.data(), &Client::up);
+        if (kind == "text")
+            m_peer->sendText(QString::fromUtf8(frame));
+        else if (kind == "binary")
+            m_peer->sendBinary(frame);
+        else
+            m_peer->sendRaw(frame);
+        QVERIFY(down.wait());
+        QCOMPARE(down.first().first().toBool(), false);
+        QVERIFY(up.wait()); // a bad moment is no reason to stay away
+    }
+
+    void oversizedRequestIsNotSent()
+    {
+        announce("^peer: big not sent: its frame would be larger than 16 MiB$");
+        const QString text(int(rpc::maxFrameBytes), QLatin1Char('x'));
+        QVERIFY(!m_client->send("big", QJsonArray {text}, 1000));
+        QCOMPARE(m_peer->received("big"), 0);
+        QVERIFY(m_client->isUp());
+    }
+
+    void frameOfTheGreatestSizePassesBothWays()
+    {
+        m_peer->script("echo", echo);
+        const QByteArray around = rpc::encode(rpc::Message::request(1, "echo", QJsonArray {""}));
+        const QJsonArray argument {
+            QString(int(rpc::maxFrameBytes) - around.size(), QLatin1Char('x'))};
+        const Answer answer = m_client->call("echo", argument, 20000);
+        QCOMPARE(answer.status, Status::Result);
+        QVERIFY(answer.value.toArray() == argument);
+    }
+
+    void pendingRequestsAreBounded()
+    {
+        m_peer->ignore("never");
+        for (int i = 0; i < rpc::maxPending; ++i)
+            QVERIFY(m_client->send("never", {}, 20000));
+        announce("^peer: never not sent: too many requests wait");
+        QVERIFY(!m_client->send("never", {}, 20000));
+        announce("^peer: never not sent: too many requests wait");
+        QCOMPARE(m_client->call("never", {}, 20000).status, Status::NotSent);
+    }
+
+    void unsentBytesAreBounded()
+    {
+        m_peer->standStill();
+        const QJsonArray argument {QString(8 * 1024 * 1024, QLatin1Char('x'))};
+        announce("^peer: never not sent: too much waits to be sent$");
+        int accepted = 0;
+        while (accepted < 100 && m_client->send("never", argument, 20000))
+            ++accepted;
+        m_peer->goOn();
+        QVERIFY(accepted >= 2);
+        QVERIFY(accepted < 12); // what the kernel buffers comes on top
+        m_client->close();
+    }
+
+    void floodEndsTheLink()
+    {
+        QSignalSpy down(m_client.data(), &Client::down);
+        m_peer->script("flood", [](const rpc::Message &) {
+            return Frames(rpc::maxUndelivered + 1000, notification(1));
+        });
+        int notified = 0;
+        connect(m_client.data(), &Client::notified, this, [&] { ++notified; });
+        announce("^peer: link closed: more arrives than the panel takes in$");
+        QCOMPARE(m_client->call("flood", {}, 30000).status, Status::Lost);
+        QTRY_COMPARE_WITH_TIMEOUT(down.size(), 1, 20000);
+        QCOMPARE(notified, rpc::maxUndelivered); // what had been taken in is not lost
+    }
+
+    void silentPeerIsNoticed()
+    {
+        QSignalSpy down(m_client.data(), &Client::down);
+        announce("^peer: link closed: the peer has gone silent$");
+        m_peer->standStill();
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(down.wait(10000));
+        QVERIFY2(time.elapsed() >= 2000, qPrintable(QString::number(time.elapsed())));
+        QSignalSpy up(m_client.data(), &Client::up);
+        m_peer->goOn();
+        QVERIFY(up.wait(10000));
+    }
+
+    // One frame that takes longer than the silence allowed, while its bytes keep coming.
+    void slowPeerIsKept()
+    {
+        QSignalSpy down(m_client.data(), &Client::down);
+        QSignalSpy notified(m_client.data(), &Client::notified);
+        const QByteArray frame = rpc::encode(rpc::Message::notification("slow", QJsonArray {1}));
+        m_peer->standStill(); // no pong can come between the pieces
+        m_peer->sendRaw(QByteArray("\x81") + char(frame.size()) + frame.left(10));
+        QTimer trickle;
+        int sent = 10;
+        connect(&trickle, &QTimer::timeout, this, [&] {
+            const int length = qMin(4, frame.size() - sent);
+            m_peer->sendRaw(frame.mid(sent, length));
+            sent += length;
+        });
+        trickle.start(5500 * 4 / (frame.size() - 10));
+        QVERIFY(notified.wait(10000));
+        m_peer->goOn();
+        QCOMPARE(down.size(), 0);
+    }
+
+    void reconnectsByItself()
+    {
+        m_peer->answer("ping", 1);
+        for (int round = 0; round < 3; ++round) {
+            QSignalSpy up(m_client.data(), &Client::up);
+            QSignalSpy down(m_client.data(), &Client::down);
+            m_peer->dropClients();
+            QVERIFY(down.wait());
+            QVERIFY(!m_client->isUp());
+            QVERIFY(!m_client->send("ping", {}, 1000));
+            QVERIFY(up.wait());
+            QVERIFY(m_client->call("ping", {}, 5000).isResult());
+        }
+    }
+
+    void peerThatIsNotThere()
+    {
+        QSignalSpy up(m_client.data(), &Client::up);
+        QSignalSpy down(m_client.data(), &Client::down);
+        m_peer->setListening(false);
+        QVERIFY(down.wait());
+        QCOMPARE(m_client->call("x", {}, 1000).status, Status::NotSent);
+        QVERIFY(!up.wait(500)); // long enough for some attempts
+        m_peer->setListening(true);
+        QVERIFY(up.wait());
+    }
+
+    void closeIsExpected()
+    {
+        QSignalSpy down(m_client.data(), &Client::down);
+        m_client->close();
+        QCOMPARE(down.size(), 1);
+        QCOMPARE(down.first().first().toBool(), true);
+        QVERIFY(!m_client->isUp());
+        m_client->close();
+        QCOMPARE(down.size(), 1);
+        QTRY_COMPARE(m_peer->clients(), 0);
+        QCOMPARE(m_peer->closeReason(), QStringLiteral("the panel closed the link"));
+    }
+
+    // Nothing is said to a peer that was not reached yet: Qt would warn of it.
+    void closeDuringAnAttempt()
+    {
+        QSignalSpy up(m_client.data(), &Client::up);
+        for (int i = 0; i < 50; ++i) {
+            m_client->open(m_peer->url());
+            m_client->close();
+        }
+        m_client->open(m_peer->url());
+        QVERIFY(up.wait());
+    }
+
+    void closeInsideADelivery()
+    {
+        QVector<int> delivered;
+        connect(m_client.data(), &Client::notified, this,
+                [&](const QString &, const QJsonValue &params) {
+                    delivered.append(params.toArray().at(0).toInt());
+                    m_client->close();
+                });
+        m_peer->script("go", [](const rpc::Message &) {
+            return Frames {notification(1), notification(2)};
+        });
+        m_client->send("go", {}, 1000);
+        QTRY_COMPARE(delivered.size(), 1);
+        QTRY_COMPARE(m_peer->clients(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(delivered.size(), 1);
+    }
+
+    void throwingReceiverDoesNoHarm()
+    {
+        m_peer->answer("x", 1);
+        QVector<int> delivered;
+        connect(m_client.data(), &Client::notified, this,
+                [&](const QString &, const QJsonValue &params) {
+                    delivered.append(params.toArray().at(0).toInt());
+                    if (delivered.size() == 1)
+                        throw std::runtime_error("plugin fault 7");
+                    if (delivered.size() == 2)
+                        throw 7;
+                });
+        announce("^peer: a receiver threw: plugin fault 7$");
+        announce("^peer: a receiver threw no exception object$");
+        for (int i = 0; i < 3; ++i)
+            m_peer->notify("n", QJsonArray {i});
+        QTRY_COMPARE(delivered, (QVector<int> {0, 1, 2}));
+        announce("^peer: a receiver threw: in a callback$");
+        QVERIFY(m_client->send("x", {}, 1000,
+                               [](const Answer &) { throw std::logic_error("in a callback"); }));
+        QTRY_COMPARE(m_peer->received("x"), 1);
+        QVERIFY(m_client->call("x", {}, 1000).isResult());
+        QCoreApplication::processEvents();
+    }
+
+    // A handler that opens a dialog runs an event loop of its own: the rest has to come in there.
+    void handlerWithAnEventLoop()
+    {
+        QVector<int> delivered;
+        connect(m_client.data(), &Client::notified, this,
+                [&](const QString &, const QJsonValue &params) {
+                    delivered.append(params.toArray().at(0).toInt());
+                    if (delivered.size() == 1)
+                        QTRY_COMPARE(delivered.size(), 3);
+                });
+        m_peer->script("go", [](const rpc::Message &request) {
+            return Frames {notification(1), notification(2), notification(3), answerTo(request)};
+        });
+        QVERIFY(m_client->call("go", {}, 5000).isResult());
+        QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
+    }
+
+    void joinedThreadStartsAgain()
+    {
+        m_client->close();
+        m_thread->shutdown();
+        QVERIFY(!m_thread->isRunning());
+        m_thread->shutdown();
+        QTRY_COMPARE(m_peer->clients(), 0);
+        QSignalSpy up(m_client.data(), &Client::up);
+        m_client->open(m_peer->url());
+        QVERIFY(up.wait());
+    }
 
 private:
     QScopedPointer<FakePeer> m_peer;
     QScopedPointer<rpc::IoThread> m_thread;
     QScopedPointer<Client> m_client;
 };
-
-void TestClient::init()
-{
-    m_peer.reset(new FakePeer);
-    m_thread.reset(new rpc::IoThread);
-    m_client.reset(new Client(QStringLiteral("peer"), m_thread.data()));
-    QSignalSpy up(m_client.data(), &Client::up);
-    m_client->open(m_peer->url());
-    QVERIFY(up.wait());
-}
-
-void TestClient::cleanup()
-{
-    m_client.reset();
-    m_thread.reset();
-    m_peer.reset();
-}
-
-void TestClient::answerReachesTheCaller()
-{
-    m_peer->script("echo", [](const rpc::Message &request) {
-        return QVector<QByteArray> {rpc::encode(rpc::Message::answer(request.id, request.params))};
-    });
-    const QJsonObject argument {
-        {"text", QString::fromUtf8("ä€😀\n")}, {"n", 1e300}, {"z", QJsonValue()}};
-    const Answer answer = m_client->call("echo", argument, 5000);
-    QCOMPARE(answer.status, Status::Result);
-    QCOMPARE(answer.value, QJsonValue(argument));
-}
-
-void TestClient::answersFindTheirRequests()
-{
-    QVector<QByteArray> held;
-    m_peer->script("hold", [&held](const rpc::Message &request) {
-        held.prepend(rpc::encode(rpc::Message::answer(request.id, request.params)));
-        return held.size() == 3 ? held : QVector<QByteArray>();
-    });
-    QVector<int> order;
-    for (int i = 0; i < 3; ++i) {
-        m_client->send("hold", QJsonArray {i}, 5000, [&order, i](const Answer &answer) {
-            QCOMPARE(answer.value.toArray().at(0).toInt(), i);
-            order.append(i);
-        });
-    }
-    QTRY_COMPARE(order, (QVector<int> {2, 1, 0}));
-}
-
-void TestClient::blockingCallEnds_data()
-{
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<int>("status");
-    QTest::newRow("refusal") << "refused" << int(Status::Refused);
-    QTest::newRow("no answer") << "ignored" << int(Status::TimedOut);
-    QTest::newRow("lost link") << "lost" << int(Status::Lost);
-    QTest::newRow("unknown") << "unknown" << int(Status::Refused);
-}
-
-void TestClient::blockingCallEnds()
-{
-    QFETCH(QString, method);
-    m_peer->refuse("refused", "not in manual mode");
-    m_peer->ignore("ignored");
-    m_peer->script("lost", [](const rpc::Message &) { return QVector<QByteArray> {"malformed"}; });
-    if (method == "lost")
-        announce("^peer: link closed: malformed frame: not JSON");
-    QElapsedTimer time;
-    time.start();
-    const Answer answer = m_client->call(method, {}, 150);
-    QTEST(int(answer.status), "status");
-    if (method == "refused")
-        QCOMPARE(answer.reason, QStringLiteral("not in manual mode"));
-    if (answer.status == Status::TimedOut)
-        QVERIFY(time.elapsed() >= 150);
-    QVERIFY(time.elapsed() < 2000);
-}
-
-void TestClient::nothingIsDeliveredWhileACallWaits()
-{
-    m_peer->script("late", [](const rpc::Message &request) {
-        return QVector<QByteArray> {rpc::encode(rpc::Message::notification("n", QJsonArray {1})),
-                                    rpc::encode(rpc::Message::notification("n", QJsonArray {2})),
-                                    rpc::encode(rpc::Message::answer(request.id, true)),
-                                    rpc::encode(rpc::Message::notification("n", QJsonArray {3}))};
-    });
-    QVector<int> delivered;
-    connect(m_client.data(), &Client::notified, this,
-            [&](const QString &, const QJsonValue &params) {
-                QCOMPARE(thread(), QThread::currentThread());
-                delivered.append(params.toArray().at(0).toInt());
-            });
-    bool timerRan = false;
-    QTimer::singleShot(0, this, [&] { timerRan = true; });
-    QVERIFY(m_client->call("late", {}, 5000).isResult());
-    QVERIFY(delivered.isEmpty());
-    QVERIFY(!timerRan);
-    QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
-}
-
-void TestClient::callbackComesOnce_data()
-{
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<int>("status");
-    QTest::newRow("result") << "answered" << int(Status::Result);
-    QTest::newRow("refusal") << "refused" << int(Status::Refused);
-    QTest::newRow("time-out") << "ignored" << int(Status::TimedOut);
-    QTest::newRow("lost link") << "dropped" << int(Status::Lost);
-    QTest::newRow("closed") << "closed" << int(Status::Lost);
-}
-
-void TestClient::callbackComesOnce()
-{
-    QFETCH(QString, method);
-    m_peer->answer("answered", 5);
-    m_peer->refuse("refused", "no");
-    m_peer->ignore("ignored");
-    m_peer->ignore("dropped");
-    QVector<int> ends;
-    QVERIFY(m_client->send(method, {}, method == "ignored" ? 50 : 5000,
-                           [&](const Answer &answer) { ends.append(int(answer.status)); }));
-    QVERIFY(ends.isEmpty());
-    if (method == "closed")
-        m_client->close();
-    if (method == "dropped") {
-        QTRY_COMPARE(m_peer->received("dropped"), 1);
-        m_peer->dropClients();
-    }
-    QTRY_COMPARE(ends.size(), 1);
-    QTEST(ends.first(), "status");
-    QCoreApplication::processEvents();
-    QCOMPARE(ends.size(), 1);
-}
-
-void TestClient::answersNobodyWaitsForAreDropped()
-{
-    m_peer->script("twice", twice);
-    m_peer->ignore("never");
-    m_peer->answer("fine", "fine");
-    announce("^peer: answer \\d+ dropped: nobody waits for it$");
-    QVERIFY(m_client->call("twice", {}, 5000).isResult());
-    QCOMPARE(m_client->call("never", {}, 20).status, Status::TimedOut);
-    const QJsonValue late = m_peer->last("never").id;
-    m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer(late, "late"))));
-    m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer("unasked", 1))));
-    QCOMPARE(m_client->call("fine", {}, 5000).value, QJsonValue("fine"));
-}
-
-void TestClient::badPeerIsCutOff_data()
-{
-    QTest::addColumn<QByteArray>("frame");
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QByteArray>("reason");
-    QTest::newRow("not JSON") << QByteArray("hello") << "text"
-                              << QByteArray("malformed frame: not JSON");
-    QTest::newRow("JSON, not RPC")
-        << QByteArray("{}") << "text" << QByteArray("malformed frame: not JSON-RPC 2.0");
-    QTest::newRow("batch") << QByteArray("[]") << "text"
-                           << QByteArray("malformed frame: not a JSON object");
-    QTest::newRow("request") << QByteArray(R"({"jsonrpc":"2.0","id":1,"method":"do"})") << "text"
-                             << QByteArray("a request came from the peer: do");
-    QTest::newRow("binary frame") << QByteArray("\0\1\2", 3) << "binary"
-                                  << QByteArray("a binary frame");
-    QTest::newRow("reserved opcode") << QByteArray("\x83\x01x") << "raw" << QByteArray(".+");
-    QTest::newRow("masked frame of a server") << QByteArray("\x81\x81"
-                                                            "abcdx")
-                                              << "raw" << QByteArray(".+");
-    QTest::newRow("broken UTF-8") << QByteArray("\x81\x02\xff\xfe") << "raw" << QByteArray(".+");
-    QTest::newRow("announces 2^62 bytes")
-        << QByteArray("\x81\x7f\x40\0\0\0\0\0\0\0", 10) << "raw" << QByteArray(".+");
-    QTest::newRow("announces 17 MiB")
-        << QByteArray("\x81\x7f\0\0\0\0\x01\x10\0\0", 10) << "raw" << QByteArray(".+");
-}
-
-void TestClient::badPeerIsCutOff()
-{
-    QFETCH(QByteArray, frame);
-    QFETCH(QString, kind);
-    QFETCH(QByteArray, reason);
-    announce(QByteArray("^peer: link closed: " + reason).constData());
-    QSignalSpy down(m_client.data(), &Client::down);
-    QSignalSpy up(m_client.data(), &Client::up);
-    if (kind == "text")
-        m_peer->sendText(QString::fromUtf8(frame));
-    else if (kind == "binary")
-        m_peer->sendBinary(frame);
-    else
-        m_peer->sendRaw(frame);
-    QVERIFY(down.wait());
-    QCOMPARE(down.first().first().toBool(), false);
-    QVERIFY(up.wait()); // a bad moment is no reason to stay away
-}
-
-void TestClient::oversizedRequestIsNotSent()
-{
-    announce("^peer: big not sent: its frame would be larger than 16 MiB$");
-    const QString text(int(rpc::maxFrameBytes), QLatin1Char('x'));
-    QVERIFY(!m_client->send("big", QJsonArray {text}, 1000));
-    QCOMPARE(m_peer->received("big"), 0);
-    QVERIFY(m_client->isUp());
-}
-
-void TestClient::frameOfTheGreatestSizePassesBothWays()
-{
-    m_peer->script("echo", [](const rpc::Message &request) {
-        return QVector<QByteArray> {rpc::encode(rpc::Message::answer(request.id, request.params))};
-    });
-    const QByteArray around = rpc::encode(rpc::Message::request(1, "echo", QJsonArray {""}));
-    const QJsonArray argument {QString(int(rpc::maxFrameBytes) - around.size(), QLatin1Char('x'))};
-    const Answer answer = m_client->call("echo", argument, 20000);
-    QCOMPARE(answer.status, Status::Result);
-    QVERIFY(answer.value.toArray() == argument);
-}
-
-void TestClient::pendingRequestsAreBounded()
-{
-    m_peer->ignore("never");
-    for (int i = 0; i < rpc::maxPending; ++i)
-        QVERIFY(m_client->send("never", {}, 20000));
-    announce("^peer: never not sent: too many requests wait");
-    QVERIFY(!m_client->send("never", {}, 20000));
-    announce("^peer: never not sent: too many requests wait");
-    QCOMPARE(m_client->call("never", {}, 20000).status, Status::NotSent);
-}
-
-void TestClient::unsentBytesAreBounded()
-{
-    m_peer->standStill();
-    const QJsonArray argument {QString(8 * 1024 * 1024, QLatin1Char('x'))};
-    announce("^peer: never not sent: too much waits to be sent$");
-    int accepted = 0;
-    while (accepted < 100 && m_client->send("never", argument, 20000))
-        ++accepted;
-    m_peer->goOn();
-    QVERIFY(accepted >= 2);
-    QVERIFY(accepted < 12); // what the kernel buffers comes on top
-    m_client->close();
-}
-
-void TestClient::floodEndsTheLink()
-{
-    QSignalSpy down(m_client.data(), &Client::down);
-    m_peer->script("flood", [](const rpc::Message &) {
-        const QByteArray frame = rpc::encode(rpc::Message::notification("n", QJsonArray {1}));
-        return QVector<QByteArray>(rpc::maxUndelivered + 1000, frame);
-    });
-    int notified = 0;
-    connect(m_client.data(), &Client::notified, this, [&] { ++notified; });
-    announce("^peer: link closed: more arrives than the panel takes in$");
-    QCOMPARE(m_client->call("flood", {}, 30000).status, Status::Lost);
-    QTRY_COMPARE_WITH_TIMEOUT(down.size(), 1, 20000);
-    QCOMPARE(notified, rpc::maxUndelivered); // what had been taken in is not lost
-}
-
-void TestClient::silentPeerIsNoticed()
-{
-    QSignalSpy down(m_client.data(), &Client::down);
-    announce("^peer: link closed: the peer has gone silent$");
-    m_peer->standStill();
-    QElapsedTimer time;
-    time.start();
-    QVERIFY(down.wait(10000));
-    QVERIFY2(time.elapsed() >= 2000, qPrintable(QString::number(time.elapsed())));
-    QSignalSpy up(m_client.data(), &Client::up);
-    m_peer->goOn();
-    QVERIFY(up.wait(10000));
-}
-
-// One frame that takes longer than the silence allowed, while its bytes keep coming.
-void TestClient::slowPeerIsKept()
-{
-    QSignalSpy down(m_client.data(), &Client::down);
-    QSignalSpy notified(m_client.data(), &Client::notified);
-    const QByteArray frame = rpc::encode(rpc::Message::notification("slow", QJsonArray {1}));
-    m_peer->standStill(); // no pong can come between the pieces
-    m_peer->sendRaw(QByteArray("\x81") + char(frame.size()) + frame.left(10));
-    QTimer trickle;
-    int sent = 10;
-    connect(&trickle, &QTimer::timeout, this, [&] {
-        const int length = qMin(4, frame.size() - sent);
-        m_peer->sendRaw(frame.mid(sent, length));
-        sent += length;
-    });
-    trickle.start(5500 * 4 / (frame.size() - 10));
-    QVERIFY(notified.wait(10000));
-    m_peer->goOn();
-    QCOMPARE(down.size(), 0);
-}
-
-void TestClient::reconnectsByItself()
-{
-    m_peer->answer("ping", 1);
-    for (int round = 0; round < 3; ++round) {
-        QSignalSpy up(m_client.data(), &Client::up);
-        QSignalSpy down(m_client.data(), &Client::down);
-        m_peer->dropClients();
-        QVERIFY(down.wait());
-        QVERIFY(!m_client->isUp());
-        QVERIFY(!m_client->send("ping", {}, 1000));
-        QVERIFY(up.wait());
-        QVERIFY(m_client->call("ping", {}, 5000).isResult());
-    }
-}
-
-void TestClient::peerThatIsNotThere()
-{
-    QSignalSpy up(m_client.data(), &Client::up);
-    QSignalSpy down(m_client.data(), &Client::down);
-    m_peer->setListening(false);
-    QVERIFY(down.wait());
-    QCOMPARE(m_client->call("x", {}, 1000).status, Status::NotSent);
-    QVERIFY(!up.wait(500)); // long enough for some attempts
-    m_peer->setListening(true);
-    QVERIFY(up.wait());
-}
-
-void TestClient::closeIsExpected()
-{
-    QSignalSpy down(m_client.data(), &Client::down);
-    m_client->close();
-    QCOMPARE(down.size(), 1);
-    QCOMPARE(down.first().first().toBool(), true);
-    QVERIFY(!m_client->isUp());
-    m_client->close();
-    QCOMPARE(down.size(), 1);
-    QTRY_COMPARE(m_peer->clients(), 0);
-    QCOMPARE(m_peer->closeReason(), QStringLiteral("the panel closed the link"));
-}
-
-// Nothing is said to a peer that was not reached yet: Qt would warn of it.
-void TestClient::closeDuringAnAttempt()
-{
-    QSignalSpy up(m_client.data(), &Client::up);
-    for (int i = 0; i < 50; ++i) {
-        m_client->open(m_peer->url());
-        m_client->close();
-    }
-    m_client->open(m_peer->url());
-    QVERIFY(up.wait());
-}
-
-void TestClient::closeInsideADelivery()
-{
-    QVector<int> delivered;
-    connect(m_client.data(), &Client::notified, this,
-            [&](const QString &, const QJsonValue &params) {
-                delivered.append(params.toArray().at(0).toInt());
-                m_client->close();
-            });
-    m_peer->script("go", [](const rpc::Message &) {
-        return QVector<QByteArray> {rpc::encode(rpc::Message::notification("n", QJsonArray {1})),
-                                    rpc::encode(rpc::Message::notification("n", QJsonArray {2}))};
-    });
-    m_client->send("go", {}, 1000);
-    QTRY_COMPARE(delivered.size(), 1);
-    QTRY_COMPARE(m_peer->clients(), 0);
-    QCoreApplication::processEvents();
-    QCOMPARE(delivered.size(), 1);
-}
-
-void TestClient::throwingReceiverDoesNoHarm()
-{
-    m_peer->answer("x", 1);
-    QVector<int> delivered;
-    connect(m_client.data(), &Client::notified, this,
-            [&](const QString &, const QJsonValue &params) {
-                delivered.append(params.toArray().at(0).toInt());
-                if (delivered.size() == 1)
-                    throw std::runtime_error("plugin fault 7");
-                if (delivered.size() == 2)
-                    throw 7;
-            });
-    announce("^peer: a receiver threw: plugin fault 7$");
-    announce("^peer: a receiver threw no exception object$");
-    for (int i = 0; i < 3; ++i)
-        m_peer->notify("n", QJsonArray {i});
-    QTRY_COMPARE(delivered, (QVector<int> {0, 1, 2}));
-    announce("^peer: a receiver threw: in a callback$");
-    QVERIFY(m_client->send("x", {}, 1000,
-                           [](const Answer &) { throw std::logic_error("in a callback"); }));
-    QTRY_COMPARE(m_peer->received("x"), 1);
-    QVERIFY(m_client->call("x", {}, 1000).isResult());
-    QCoreApplication::processEvents();
-}
-
-// A handler that opens a dialog runs an event loop of its own: the rest has to come in there.
-void TestClient::handlerWithAnEventLoop()
-{
-    QVector<int> delivered;
-    connect(m_client.data(), &Client::notified, this,
-            [&](const QString &, const QJsonValue &params) {
-                delivered.append(params.toArray().at(0).toInt());
-                if (delivered.size() == 1)
-                    QTRY_COMPARE(delivered.size(), 3);
-            });
-    m_peer->script("go", [](const rpc::Message &request) {
-        return QVector<QByteArray> {rpc::encode(rpc::Message::notification("n", QJsonArray {1})),
-                                    rpc::encode(rpc::Message::notification("n", QJsonArray {2})),
-                                    rpc::encode(rpc::Message::notification("n", QJsonArray {3})),
-                                    rpc::encode(rpc::Message::answer(request.id, 1))};
-    });
-    QVERIFY(m_client->call("go", {}, 5000).isResult());
-    QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
-}
-
-void TestClient::joinedThreadStartsAgain()
-{
-    m_client->close();
-    m_thread->shutdown();
-    QVERIFY(!m_thread->isRunning());
-    m_thread->shutdown();
-    QTRY_COMPARE(m_peer->clients(), 0);
-    QSignalSpy up(m_client.data(), &Client::up);
-    m_client->open(m_peer->url());
-    QVERIFY(up.wait());
-}
 
 QTEST_GUILESS_MAIN(TestClient)
 #include "tst_client.moc"

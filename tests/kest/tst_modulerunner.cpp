@@ -9,11 +9,8 @@
 #include <functional>
 #include <stdexcept>
 
-Q_DECLARE_METATYPE(kest::ModuleFactory::Maker)
-
 namespace
 {
-
 QStringList g_calls;
 
 using Action = std::function<void(kest::BModule *)>;
@@ -104,116 +101,91 @@ private Q_SLOTS:
         QCOMPARE(runner.names(), QStringList());
     }
 
-    void destructionOfTheRunnerDetaches()
+    void framesRunUntilTheyAreStoppedAndDestructionDetaches()
     {
         addModule("a");
-        {
-            kest::ModuleRunner runner;
-            runner.start({"a"});
-            g_calls.clear();
-        }
+        auto runner = std::make_unique<kest::ModuleRunner>();
+        runner->start({"a", "a"});
+        QCOMPARE(g_calls.count("a:setup"), 1);
+        runner->startFrames(1);
+        QTRY_VERIFY(g_calls.count("a:idle") > 2);
+        runner->stopFrames();
+        g_calls.clear();
+        QCoreApplication::processEvents();
+        runner->start({"a"});
+        QCOMPARE(g_calls, QStringList());
+        runner.reset();
         QCOMPARE(g_calls, calls("a:beforeDetach a:detach a:destroy"));
     }
 
-    void framesRunUntilTheyAreStopped()
-    {
-        addModule("a");
-        kest::ModuleRunner runner;
-        runner.start({"a"});
-        runner.startFrames(1);
-        QTRY_VERIFY(g_calls.count("a:idle") > 2);
-        runner.stopFrames();
-        g_calls.clear();
-        QCoreApplication::processEvents();
-        QCOMPARE(g_calls, QStringList());
-    }
-
-    void faultyModuleIsOnlyDetached_data()
-    {
-        QTest::addColumn<QString>("hook");
-        for (const char *hook : {"setup", "afterSetup", "init", "afterInit", "render",
-                                 "afterRender", "idle", "afterIdle"})
-            QTest::newRow(hook) << hook;
-    }
     void faultyModuleIsOnlyDetached()
     {
-        QFETCH(QString, hook);
-        addModule("bad", {{hook, [](auto *) { throw std::runtime_error("no camera"); }}});
-        addModule("good");
-        kest::ModuleRunner runner;
-        QSignalSpy faults(&runner, &kest::ModuleRunner::moduleFaulty);
-        runner.start({"bad", "good"});
-        runner.frame();
-        QCOMPARE(g_calls.filter("bad:").last(), "bad:" + hook);
-        QCOMPARE(g_calls.last(), QString("good:afterIdle"));
-        const QString error = QString("\"bad\" failed in %1: no camera").arg(hook);
-        QCOMPARE(faults, (QList<QVariantList> {{"bad", error}}));
-        QCOMPARE(kest::ModuleRunner::state("bad"), QString("faulty"));
-        QCOMPARE(kest::ModuleRunner::error("bad"), error);
-        g_calls.clear();
-        runner.frame();
-        QVERIFY(g_calls.filter("bad:").isEmpty());
-        g_calls.clear();
-        runner.stop("bad");
-        QCOMPARE(g_calls, calls("bad:detach bad:destroy"));
-        QCOMPARE(kest::ModuleRunner::state("bad"), QString("faulty"));
-        QCOMPARE(kest::ModuleRunner::state("good"), QString("running"));
+        for (const QString hook : {"setup", "afterSetup", "init", "afterInit", "render",
+                                   "afterRender", "idle", "afterIdle"}) {
+            init();
+            addModule("bad", {{hook, [](auto *) { throw std::runtime_error("no camera"); }}});
+            addModule("good");
+            kest::ModuleRunner runner;
+            QSignalSpy faults(&runner, &kest::ModuleRunner::moduleFaulty);
+            runner.start({"bad", "good"});
+            runner.frame();
+            QCOMPARE(g_calls.filter("bad:").last(), "bad:" + hook);
+            QCOMPARE(g_calls.last(), QString("good:afterIdle"));
+            const QString error = QString("\"bad\" failed in %1: no camera").arg(hook);
+            QCOMPARE(faults, (QList<QVariantList> {{"bad", error}}));
+            QCOMPARE(kest::ModuleRunner::error("bad"), error);
+            g_calls.clear();
+            runner.frame();
+            QVERIFY(g_calls.filter("bad:").isEmpty());
+            g_calls.clear();
+            runner.stop("bad");
+            QCOMPARE(g_calls, calls("bad:detach bad:destroy"));
+            QCOMPARE(kest::ModuleRunner::state("bad"), QString("faulty"));
+        }
     }
 
-    void throwingDetachDoesNotKeepTheOthers_data()
-    {
-        QTest::addColumn<QString>("hook");
-        QTest::newRow("beforeDetach") << "beforeDetach";
-        QTest::newRow("detach") << "detach";
-    }
     void throwingDetachDoesNotKeepTheOthers()
     {
-        QFETCH(QString, hook);
-        addModule("a");
-        addModule("bad", {{hook, [](auto *) { throw 42; }}});
-        kest::ModuleRunner runner;
-        runner.start({"a", "bad"});
-        runner.shutdown();
-        QVERIFY(g_calls.contains("bad:detach"));
-        QVERIFY(g_calls.contains("bad:destroy"));
-        QVERIFY(g_calls.contains("a:destroy"));
-        QVERIFY(kest::ModuleRunner::error("bad").endsWith("an unknown exception"));
+        for (const char *hook : {"beforeDetach", "detach"}) {
+            init();
+            addModule("a");
+            addModule("bad", {{hook, [](auto *) { throw 42; }}});
+            kest::ModuleRunner runner;
+            runner.start({"a", "bad"});
+            runner.shutdown();
+            QVERIFY(g_calls.contains("bad:detach") && g_calls.contains("bad:destroy"));
+            QVERIFY(g_calls.contains("a:destroy"));
+            QVERIFY(kest::ModuleRunner::error("bad").endsWith("an unknown exception"));
+        }
     }
 
-    void moduleThatCannotBeMade_data()
-    {
-        QTest::addColumn<kest::ModuleFactory::Maker>("maker");
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("error");
-        using Maker = kest::ModuleFactory::Maker;
-        QTest::newRow("no maker") << Maker() << "not loaded"
-                                  << "No module is registered under the name \"x\".";
-        QTest::newRow("null") << Maker([](QObject *) { return nullptr; }) << "faulty"
-                              << "The maker of \"x\" returned no module.";
-        QTest::newRow("throws") << Maker([](QObject *) -> kest::BModule * {
-            throw std::runtime_error("broken");
-        }) << "faulty"
-                                << "\"x\" failed in make: broken";
-        QTest::newRow("throws halfway") << Maker([](QObject *parent) -> kest::BModule * {
-            new RecordingModule("x", {}, parent);
-            throw std::runtime_error("broken");
-        }) << "faulty"
-                                        << "\"x\" failed in make: broken";
-    }
     void moduleThatCannotBeMade()
     {
-        QFETCH(kest::ModuleFactory::Maker, maker);
-        bfactory().makers.insert("x", maker);
-        addModule("good");
-        kest::ModuleRunner runner;
-        runner.start({"x", "good"});
-        runner.frame();
-        QTEST(kest::ModuleRunner::state("x"), "state");
-        QTEST(kest::ModuleRunner::error("x"), "error");
-        QCOMPARE(runner.module("x"), nullptr);
-        QCOMPARE(bModule("ostrel.zeplet.x"), nullptr);
-        QCOMPARE(kest::ModuleRunner::state("good"), QString("running"));
-        runner.stop("x");
+        const struct {
+            kest::ModuleFactory::Maker maker;
+            const char *state, *error;
+        } rows[] = {
+            {{}, "not loaded", "No module is registered under the name \"x\"."},
+            {[](QObject *) { return nullptr; }, "faulty", "The maker of \"x\" returned no module."},
+            {[](QObject *parent) -> kest::BModule * {
+                 new RecordingModule("x", {}, parent);
+                 throw std::runtime_error("broken");
+             },
+             "faulty", "\"x\" failed in make: broken"},
+        };
+        for (const auto &[maker, state, error] : rows) {
+            bfactory().makers.insert("x", maker);
+            addModule("good");
+            kest::ModuleRunner runner;
+            runner.start({"x", "good"});
+            runner.frame();
+            QCOMPARE(kest::ModuleRunner::state("x"), QString(state));
+            QCOMPARE(kest::ModuleRunner::error("x"), QString(error));
+            QCOMPARE(runner.module("x"), nullptr);
+            QCOMPARE(bModule("ostrel.zeplet.x"), nullptr);
+            QCOMPARE(kest::ModuleRunner::state("good"), QString("running"));
+            runner.stop("x");
+        }
     }
 
     void moduleThatReportsAnErrorWhileMadeIsFaulty()
@@ -243,16 +215,6 @@ private Q_SLOTS:
         runner.start({"x"});
         QCOMPARE(kest::ModuleRunner::state("x"), QString("running"));
         QCOMPARE(kest::ModuleRunner::error("x"), QString());
-    }
-
-    void startingARunningModuleChangesNothing()
-    {
-        addModule("a");
-        kest::ModuleRunner runner;
-        runner.start({"a", "a"});
-        QCOMPARE(g_calls.count("a:setup"), 1);
-        runner.start({"a"});
-        QCOMPARE(g_calls.count("a:setup"), 1);
     }
 
     void moduleMayStopItselfInAHook()

@@ -14,7 +14,6 @@
 
 namespace
 {
-
 ostrel::ModuleObject *packList()
 {
     return m("kivra.page.robot.page.pack.page");
@@ -55,6 +54,13 @@ void rewriteWithout(const QString &nav)
     packList()->importFromJson(nullptr, pages, true, true, true);
 }
 
+ostrel::ModuleObject *enter(kest::BModule *module, const QString &nav)
+{
+    ostrel::ModuleObject *entry = qo::kivra::registerPage(module, nav, "robot.pack", "", -1);
+    entry->set(nullptr, "nav", nav, true);
+    return entry;
+}
+
 } // namespace
 
 class TestNavigation : public QObject
@@ -67,38 +73,32 @@ private Q_SLOTS:
     void init() { QCOMPARE(storedTitles(), QStringList()); }
     void cleanup() { delete instantiatedCenterWidget(); }
 
-    void entersPagesAtTheirIndex_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QStringList>("titles");
-        QTest::newRow("append") << -1 << QStringList {"a", "b", "new"};
-        QTest::newRow("first") << 0 << QStringList {"new", "a", "b"};
-        QTest::newRow("between") << 1 << QStringList {"a", "new", "b"};
-        QTest::newRow("beyond the end") << 99 << QStringList {"a", "b", "new"};
-    }
     void entersPagesAtTheirIndex()
     {
-        QFETCH(int, index);
-        kest::BModule module;
-        qo::kivra::registerPage(&module, "a", "robot.pack", "", -1);
-        qo::kivra::registerPage(&module, "b", "robot.pack", "", -1);
-        auto *node = qo::kivra::registerPage(&module, "new", "robot.pack", "home", index);
-        QTEST(storedTitles(), "titles");
-        QCOMPARE(node->getStr("title", ""), QString("new"));
-        QCOMPARE(node->getStr("icon", ""), QString("home"));
-        QCOMPARE(node->getStr("nav", "none"), QString(""));
+        const std::pair<int, QStringList> rows[] = {{-1, {"a", "b", "new"}},
+                                                    {0, {"new", "a", "b"}},
+                                                    {1, {"a", "new", "b"}},
+                                                    {99, {"a", "b", "new"}}};
+        for (const auto &[index, titles] : rows) {
+            kest::BModule module;
+            qo::kivra::registerPage(&module, "a", "robot.pack", "", -1);
+            qo::kivra::registerPage(&module, "b", "robot.pack", "", -1);
+            auto *node = qo::kivra::registerPage(&module, "new", "robot.pack", "home", index);
+            QCOMPARE(storedTitles(), titles);
+            QCOMPARE(node->getStr("title", ""), QString("new"));
+            QCOMPARE(node->getStr("icon", ""), QString("home"));
+            QCOMPARE(node->getStr("nav", "none"), QString(""));
+        }
     }
 
     void entriesGoWithTheirModuleWhateverHappenedToTheList()
     {
         kest::BModule stays;
         auto goes = std::make_unique<kest::BModule>();
-        qo::kivra::registerPage(goes.get(), "a", "robot.pack", "", -1)
-            ->set(nullptr, "nav", "a", true);
-        qo::kivra::registerPage(&stays, "b", "robot.pack", "", -1)->set(nullptr, "nav", "b", true);
-        qo::kivra::registerPage(&stays, "c", "robot.pack", "", -1)->set(nullptr, "nav", "c", true);
-        qo::kivra::registerPage(goes.get(), "d", "robot.pack", "", -1)
-            ->set(nullptr, "nav", "d", true);
+        enter(goes.get(), "a");
+        enter(&stays, "b");
+        enter(&stays, "c");
+        enter(goes.get(), "d");
         qo::kivra::registerPage(goes.get(), "e", "robot.home", "", -1);
         rewriteWithout("a"); // every other entry moves up, into other nodes
         goes.reset();
@@ -113,9 +113,9 @@ private Q_SLOTS:
         bar.resize(200, 600);
         bar.show();
         QCOMPARE(shownTitles(bar), QStringList());
-        qo::kivra::registerPage(&module, "a", "robot.pack", "", -1)->set(nullptr, "nav", "a", true);
-        auto *b = qo::kivra::registerPage(&module, "b", "robot.pack", "", -1);
-        qo::kivra::registerPage(&module, "c", "robot.pack", "", -1)->set(nullptr, "nav", "c", true);
+        enter(&module, "a");
+        auto *b = enter(&module, "b");
+        enter(&module, "c");
         QTRY_COMPARE(shownTitles(bar), (QStringList {"a", "b", "c"}));
         b->set(nullptr, "title", "renamed", true);
         QTRY_COMPARE(shownTitles(bar), (QStringList {"a", "renamed", "c"}));
@@ -135,10 +135,8 @@ private Q_SLOTS:
         qo::kivra::NavigationBar bar;
         bar.resize(200, 600);
         bar.show();
-        qo::kivra::registerPage(&module, "a", "robot.pack", "", -1)
-            ->set(nullptr, "nav", "zeplet.a", true);
-        qo::kivra::registerPage(&module, "b", "robot.pack", "", -1)
-            ->set(nullptr, "nav", "zeplet.b", true);
+        enter(&module, "zeplet.a");
+        enter(&module, "zeplet.b");
         qo::kivra::registerPage(&module, "no page", "robot.pack", "", -1);
         QTRY_COMPARE(shownTitles(bar).size(), 3);
         auto *b = bar.findChild<QAbstractButton *>("zeplet.b");

@@ -1,18 +1,8 @@
 // Needs a library that is not there when it is opened.
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
 int absentAnswer();
 
-namespace
-{
-
-[[maybe_unused]] const bool registered = [] {
-    if (absentAnswer() != 42)
-        return false;
-    zeplet::zepletFactory().regist(QStringLiteral("dependent"),
-                                   [](QObject *parent) { return new zeplet::PluginBase(parent); });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("dependent", [](QObject *parent) {
+    return absentAnswer() ? new zeplet::PluginBase(parent) : nullptr;
+});

@@ -1,12 +1,5 @@
 // Registers a function object without a function.
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
-namespace
-{
-
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("emptyfactory"), {});
-    return true;
-}();
-
-} // namespace
+static const Registration registration("emptyfactory",
+                                       std::function<zeplet::PluginBase *(QObject *)>());

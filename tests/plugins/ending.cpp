@@ -1,13 +1,12 @@
 // Says on the way out what of the panel is still there, and leaves a subscription and a watched hub
 // key behind, as a careless plugin does.
-#include <zeplet/events/zepleteventsystem.h>
-#include <zeplet/interface/interfacemanager.h>
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
 #include <QDir>
 #include <cstdio>
 #include <cstdlib>
+#include <zeplet/events/zepleteventsystem.h>
+#include <zeplet/interface/interfacemanager.h>
 
 namespace
 {
@@ -49,10 +48,6 @@ public:
     void detach() override { say("detach"); }
 };
 
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("ending"),
-                                   [](QObject *parent) { return new Ending(parent); });
-    return true;
-}();
+const Registration registration("ending", [](QObject *parent) { return new Ending(parent); });
 
 } // namespace

@@ -1,14 +1,6 @@
 // Registers another name than its tag says.
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
-namespace
-{
-
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("anothername"),
-                                   [](QObject *parent) { return new zeplet::PluginBase(parent); });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("anothername", [](QObject *parent) {
+    return new zeplet::PluginBase(parent);
+});

@@ -1,13 +1,4 @@
 // The factory makes nothing.
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
-namespace
-{
-
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("nullfactory"),
-                                   [](QObject *) { return nullptr; });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("nullfactory", [](QObject *) { return nullptr; });

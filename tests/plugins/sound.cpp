@@ -1,12 +1,8 @@
 // A plugin that does what it should, and shows a page.
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
-#include <zeplet/plugin/uiservices.h>
+#include "fixture.h"
 
 #include <QLabel>
-
-namespace
-{
+#include <zeplet/plugin/uiservices.h>
 
 class Sound : public zeplet::PluginBase
 {
@@ -19,10 +15,4 @@ public:
     }
 };
 
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("sound"),
-                                   [](QObject *parent) { return new Sound(parent); });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("sound", [](QObject *parent) { return new Sound(parent); });

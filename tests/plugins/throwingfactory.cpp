@@ -1,17 +1,7 @@
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
 #include <stdexcept>
 
-namespace
-{
-
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("throwingfactory"),
-                                   [](QObject *) -> zeplet::PluginBase * {
-                                       throw std::runtime_error("no camera on this machine");
-                                   });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("throwingfactory", [](QObject *) -> zeplet::PluginBase * {
+    throw std::runtime_error("no camera on this machine");
+});

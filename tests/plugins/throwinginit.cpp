@@ -1,10 +1,6 @@
-#include <zeplet/plugin/pluginbase.h>
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
 #include <stdexcept>
-
-namespace
-{
 
 class ThrowingInit : public zeplet::PluginBase
 {
@@ -14,10 +10,5 @@ public:
     void init() override { throw std::runtime_error("no gripper is mounted"); }
 };
 
-[[maybe_unused]] const bool registered = [] {
-    zeplet::zepletFactory().regist(QStringLiteral("throwinginit"),
-                                   [](QObject *parent) { return new ThrowingInit(parent); });
-    return true;
-}();
-
-} // namespace
+static const Registration registration("throwinginit",
+                                       [](QObject *parent) { return new ThrowingInit(parent); });

@@ -1,9 +1,4 @@
 // A library that forgets to register its plugin.
-#include <zeplet/plugin/pluginregister.h>
+#include "fixture.h"
 
-namespace
-{
-
-[[maybe_unused]] const zeplet::PluginRegister *const plugins = &zeplet::zepletFactory();
-
-} // namespace
+[[maybe_unused]] static const zeplet::PluginRegister *const plugins = &zeplet::zepletFactory();

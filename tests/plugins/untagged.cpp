@@ -1,7 +1,2 @@
 // A library that nobody tagged as a plugin.
-namespace
-{
-
-[[maybe_unused]] const int nothing = 0;
-
-} // namespace
+[[maybe_unused]] static const int nothing = 0;

@@ -1,4 +1,5 @@
 #include "pluginfiles.h"
+#include "testcolumns.h"
 
 #include <QDir>
 #include <QImage>
@@ -56,8 +57,11 @@ private Q_SLOTS:
                               "process ends: bus gone, I/O thread gone"}));
     }
 
-    void missingPluginDirectory()
+    void faultsAreLogged()
     {
+        pluginfiles::copy(plugins(), "throwinginit");
+        QCOMPARE(run({"--for", "0.1"}), 0);
+        QVERIFY(logText().contains("\"throwinginit\" failed in init: no gripper is mounted; "));
         QVERIFY(QDir(plugins()).removeRecursively());
         QCOMPARE(run({"--for", "0.1"}), 0);
         const QString sentence
@@ -65,21 +69,12 @@ private Q_SLOTS:
         QVERIFY2(m_output.contains(sentence), qPrintable(m_output));
     }
 
-    void faultyPluginIsLogged()
-    {
-        pluginfiles::copy(plugins(), "throwinginit");
-        QCOMPARE(run({"--for", "0.1"}), 0);
-        QVERIFY(logText().contains("\"throwinginit\" failed in init: no gripper is mounted; "));
-    }
-
     void killerIsLeftOut_data()
     {
-        QTest::addColumn<QString>("plugin");
-        QTest::addColumn<QString>("step");
-        QTest::newRow("throws") << "throwingload"
-                                << "loading";
+        const auto row = testcolumns<QString, QString>("plugin", "step");
+        row("throws", "throwingload", "loading");
         for (const char *step : {"loading", "make", "init", "afterInit", "render", "second init"})
-            QTest::newRow(step) << "crasher" << step;
+            row(step, "crasher", step);
     }
 
     void killerIsLeftOut()
@@ -111,25 +106,19 @@ private Q_SLOTS:
         QVERIFY(!logText().contains("crasher.so was left out"));
     }
 
-    void wrongUse_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("unknown option") << QStringList("--nonsense") << 2 << "nonsense";
-        QTest::newRow("runtime is a file")
-            << QStringList {"--runtime", "/proc/version"} << 1 << "/proc/version can't be used";
-        QTest::newRow("picture can't be saved")
-            << QStringList {"--for", "0.1", "--screenshot", "/proc/x.png"} << 1 << "/proc/x.png";
-    }
-
     void wrongUse()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, code);
-        QFETCH(QString, text);
-        QCOMPARE(run(arguments), code);
-        QVERIFY2(m_output.contains(text), qPrintable(m_output));
+        const struct {
+            QStringList arguments;
+            int code;
+            const char *text;
+        } rows[] = {{{"--nonsense"}, 2, "nonsense"},
+                    {{"--runtime", "/proc/version"}, 1, "/proc/version can't be used"},
+                    {{"--for", "0.1", "--screenshot", "/proc/x.png"}, 1, "/proc/x.png"}};
+        for (const auto &[arguments, code, text] : rows) {
+            QCOMPARE(run(arguments), code);
+            QVERIFY2(m_output.contains(text), qPrintable(m_output));
+        }
     }
 
 private:

@@ -1,4 +1,3 @@
-
 #include <ostrel/log.h>
 
 #include "logfiles.h"

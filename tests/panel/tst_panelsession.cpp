@@ -49,89 +49,61 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&m_session->window()));
     }
 
-    void plugin_data()
+    void plugins()
     {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<QString>("sentence");
-        const auto row = [](const char *file, PluginRecord::State state, const char *sentence) {
-            QTest::newRow(file) << int(state) << QString::fromLatin1(sentence);
-        };
         const auto refused = PluginRecord::Refused;
         const auto faulty = PluginRecord::Faulty;
-        row("sound.so", PluginRecord::Running, "");
-        row("text.so", refused,
-            "text.so is not a library: put the file there that the plugin's "
-            "build made, or remove this one.");
-        row("half.so", refused, "half.so is cut short: copy the whole file to the panel again.");
-        row("machine.so", refused, "machine.so was built for aarch64 and this panel is x86_64: ");
-        row("otherqt.so", refused, "otherqt.so was built against Qt 6.15.");
-        row("otherlibrary.so", refused,
-            "otherlibrary.so was built against version 7.0.2 of the plugin library and this panel "
-            "has 1.0.2: build it against 1.0.2.");
-        row("untagged.so", refused, "untagged.so has no plugin tag, ");
-        row("unresolved.so", refused,
-            "unresolved.so uses gripper::closeFingers(int), which no library of this panel has: "
-            "link the library that defines it.");
-        row("dependent.so", refused,
-            "dependent.so needs the library libfixture_absent.so, which this panel lacks: install "
-            "libfixture_absent.so.");
-        row("unregistered.so", refused,
-            "unregistered.so registers no plugin named \"unregistered\"");
-        row("misnamed.so", refused,
-            "misnamed.so registers \"anothername\" but is tagged \"misnamed\": ");
-        row("twin.so", refused, "twin.so registers the name \"sound\", which is taken: ");
-        row("nullfactory.so", faulty, "'nullfactory' made no plugin; correct the plugin and ");
-        row("emptyfactory.so", faulty, "\"emptyfactory\" failed in make: bad_function_call");
-        row("throwingfactory.so", faulty,
-            "\"throwingfactory\" failed in make: no camera on this machine");
-        row("crasher.so", PluginRecord::LeftOut,
-            "crasher.so was left out because it took the panel down (init): ");
-        row("throwinginit.so", faulty, "\"throwinginit\" failed in init: no gripper is mounted");
-    }
-
-    void plugin()
-    {
-        QFETCH(int, state);
-        QFETCH(QString, sentence);
-        const PluginRecord record = recordOf(QTest::currentDataTag());
-        QVERIFY2(record.sentence.contains(sentence), qPrintable(record.sentence));
-        QCOMPARE(int(record.state), state);
-        QCOMPARE(record.sentence.isEmpty(), sentence.isEmpty());
-    }
-
-    void recordsAreInTheStore()
-    {
-        const QJsonArray list = m("panel.plugins")->exportToJson(true).toArray();
+        const struct {
+            const char *file;
+            PluginRecord::State state;
+            const char *sentence;
+        } rows[] = {
+            {"sound.so", PluginRecord::Running, ""},
+            {"half.so", refused, "half.so is cut short: copy the whole file to the panel again."},
+            {"unresolved.so", refused,
+             "unresolved.so uses gripper::closeFingers(int), which no library of this panel has: "
+             "link the library that defines it."},
+            {"dependent.so", refused,
+             "dependent.so needs the library libfixture_absent.so, which this panel lacks: "
+             "install libfixture_absent.so."},
+            {"unregistered.so", refused,
+             "unregistered.so registers no plugin named \"unregistered\""},
+            {"misnamed.so", refused,
+             "misnamed.so registers \"anothername\" but is tagged \"misnamed\": "},
+            {"twin.so", refused, "twin.so registers the name \"sound\", which is taken: "},
+            {"nullfactory.so", faulty, "'nullfactory' made no plugin; correct the plugin and "},
+            {"emptyfactory.so", faulty, "\"emptyfactory\" failed in make: bad_function_call"},
+            {"throwingfactory.so", faulty,
+             "\"throwingfactory\" failed in make: no camera on this machine"},
+            {"throwinginit.so", faulty, "\"throwinginit\" failed in init: no gripper is mounted"},
+            {"crasher.so", PluginRecord::LeftOut,
+             "crasher.so was left out because it took the panel down (init): "},
+        };
+        for (const auto &[file, state, sentence] : rows) {
+            const PluginRecord record = recordOf(file);
+            QVERIFY2(record.sentence.contains(sentence), qPrintable(record.sentence));
+            QVERIFY2(record.state == state, file);
+            QCOMPARE(record.sentence.isEmpty(), *sentence == '\0');
+        }
         const auto &records = m_session->loader().records();
+        QCOMPARE(records.size(), int(std::size(rows)) + 1); // and the panel's own
+        const QJsonArray list = m("panel.plugins")->exportToJson(true).toArray();
         QCOMPARE(list.size(), records.size());
         for (int i = 0; i < list.size(); ++i)
             QCOMPARE(list.at(i).toObject(), records.at(i).toJson());
-    }
-
-    void soundPluginShowsItsPage()
-    {
         QVERIFY(bModule("ostrel.zeplet.sound"));
-        QVERIFY(m_session->window().showPage("zeplet.sound"));
-        QVERIFY(m_session->window().showPage("panel.home"));
-        QVERIFY(!m_session->window().showPage("zeplet.text"));
     }
 
-    void looks_data()
+    void pages()
     {
-        QTest::addColumn<QString>("page");
-        QTest::newRow("home") << "panel.home";
-        QTest::newRow("plugins") << "zeplet.zeplet";
-    }
-
-    void looks()
-    {
-        QFETCH(QString, page);
         panel::MainWindow &window = m_session->window();
-        QVERIFY(window.showPage(page));
-        QCOMPARE(window.size(), QSize(1280, 800));
-        QTRY_COMPARE(widgetchecks::faults(&window), QStringList());
-        const QImage picture = window.grab().toImage();
-        QVERIFY(coloursOf(picture) > 8);
+        QVERIFY(window.showPage("zeplet.sound"));
+        QVERIFY(!window.showPage("zeplet.half"));
+        for (const char *page : {"panel.home", "zeplet.zeplet"}) {
+            QVERIFY(window.showPage(page));
+            QCOMPARE(window.size(), QSize(1280, 800));
+            QTRY_COMPARE(widgetchecks::faults(&window), QStringList());
+        }
     }
 
     void systemPageShowsThePlugins()
@@ -206,15 +178,11 @@ private:
         const QString plugins = m_directory.filePath("plugins");
         QVERIFY(QDir().mkpath(plugins));
         for (const char *fixture :
-             {"sound", "untagged", "unresolved", "dependent", "unregistered", "misnamed",
-              "nullfactory", "emptyfactory", "throwingfactory", "throwinginit"})
+             {"sound", "unresolved", "dependent", "unregistered", "misnamed", "nullfactory",
+              "emptyfactory", "throwingfactory", "throwinginit"})
             copy(plugins, fixture);
         copy(plugins, "sound", "twin");
-        write(plugins, "text.so", "#!/bin/sh\necho plugin\n");
         write(plugins, "half.so", bytes("sound").left(bytes("sound").size() / 2));
-        write(plugins, "machine.so", patched("sound", {"\3\0\x3e\0", 4}, {"\3\0\xb7\0", 4}));
-        write(plugins, "otherqt.so", patched("sound", "qt=5.15.", "qt=6.15."));
-        write(plugins, "otherlibrary.so", patched("sound", "library=1.", "library=7."));
         write(plugins, "readme.txt", "not looked at");
     }
 
@@ -225,16 +193,6 @@ private:
                 return record;
         }
         return {};
-    }
-
-    static int coloursOf(const QImage &picture)
-    {
-        QSet<QRgb> colours;
-        for (int y = 0; y < picture.height(); y += 4) {
-            for (int x = 0; x < picture.width(); ++x)
-                colours.insert(picture.pixel(x, y));
-        }
-        return colours.size();
     }
 
     QTemporaryDir m_directory;

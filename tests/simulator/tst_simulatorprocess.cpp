@@ -1,8 +1,8 @@
 #include "testclient.h"
+#include "testcolumns.h"
 
 #include <QJsonDocument>
 #include <QProcess>
-#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
@@ -104,24 +104,22 @@ private slots:
 
     void ends_data()
     {
-        QTest::addColumn<int>("signalNumber"); ///< 0: by what is written
-        QTest::addColumn<bool>("closesInput");
-        QTest::newRow("SIGTERM") << SIGTERM << false;
-        QTest::newRow("SIGINT") << SIGINT << false;
-        QTest::newRow("quit") << 0 << false;
-        QTest::newRow("end of input") << 0 << true;
+        const auto row = testcolumns<int>("signalNumber"); // 0: by what is written
+        row("SIGTERM", SIGTERM);
+        row("SIGINT", SIGINT);
+        row("quit", 0);
+        row("end of input", 0);
     }
 
     void ends()
     {
         QFETCH(int, signalNumber);
-        QFETCH(bool, closesInput);
         Running running({"--until-eof"});
         QVERIFY(running.ready());
         ConnectedClient client(running.controllerPort);
         if (signalNumber != 0)
             ::kill(static_cast<pid_t>(running.process.processId()), signalNumber);
-        else if (closesInput)
+        else if (QTest::currentDataTag() == QString("end of input"))
             running.process.closeWriteChannel();
         else
             running.process.write("quit\n");
@@ -143,16 +141,13 @@ private slots:
 
     void refusesToStart_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("unknown option") << QStringList {"--sleep"} << 2 << "sleep";
-        QTest::newRow("word") << QStringList {"demo.json"} << 2 << "'demo.json'";
-        QTest::newRow("port") << QStringList {"--port", "65536"} << 2 << "'65536'";
-        QTest::newRow("hub port") << QStringList {"--hub-port", "x"} << 2 << "'x'";
-        QTest::newRow("no such file")
-            << QStringList {"--scenario", "missing.json"} << 1 << "missing.json: ";
-        QTest::newRow("broken file") << QStringList {"--scenario", SIMULATOR} << 1 << "line 1";
+        const auto row = testcolumns<QStringList, int, QString>("arguments", "exitCode", "error");
+        row("unknown option", {"--sleep"}, 2, "sleep");
+        row("word", {"demo.json"}, 2, "'demo.json'");
+        row("port", {"--port", "65536"}, 2, "'65536'");
+        row("hub port", {"--hub-port", "x"}, 2, "'x'");
+        row("no such file", {"--scenario", "missing.json"}, 1, "missing.json: ");
+        row("broken file", {"--scenario", SIMULATOR}, 1, "line 1");
     }
 
     void refusesToStart()
@@ -166,18 +161,6 @@ private slots:
         QCOMPARE(running.process.readAllStandardOutput(), QByteArray());
         const QString text = QString::fromUtf8(running.process.readAllStandardError());
         QVERIFY2(text.contains(error) && text.count('\n') == 1, qPrintable(text));
-    }
-
-    void portInUse()
-    {
-        QTcpServer occupant;
-        QVERIFY(occupant.listen(QHostAddress::LocalHost));
-        const QString port = QString::number(occupant.serverPort());
-        Running running({"--port", port});
-        QVERIFY(running.finished());
-        QCOMPARE(running.process.exitCode(), 1);
-        QVERIFY(
-            running.process.readAllStandardError().contains("controller: port " + port.toUtf8()));
     }
 
     void demoLooksAlive()

@@ -3,6 +3,7 @@
 
 #include "logfiles.h"
 #include "messagecapture.h"
+#include "testcolumns.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -44,11 +45,7 @@ private slots:
 
     void properName_data()
     {
-        QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QStringList &present, const char *expected) {
-            QTest::newRow(name) << present << QString(expected);
-        };
+        const auto row = testcolumns<QStringList, QString>("present", "expected");
         row("n0", {}, "n0_%1.log");
         row("n1", {"n1_%1.log"}, "n1_%1.log");
         row("n2", {"n2_%1.log", "n2_%1_3.log"}, "n2_%1_3.log"); // a gap
@@ -152,14 +149,8 @@ private slots:
 
     void cleansUp_data()
     {
-        QTest::addColumn<QVector<LogFile>>("files");
-        QTest::addColumn<int>("target");
-        QTest::addColumn<bool>("force");
-        QTest::addColumn<QString>("left");
-        const auto row = [](const char *name, const QVector<LogFile> &files, int target, bool force,
-                            const char *left) {
-            QTest::newRow(name) << files << target << force << QString(left);
-        };
+        const auto row
+            = testcolumns<QVector<LogFile>, int, bool, QString>("files", "target", "force", "left");
         const QVector<LogFile> byAge {{"b.log", 10, 300},
                                       {"sub/c.log", 20, 200},
                                       {"a.log", 30, 100},
@@ -256,16 +247,12 @@ private slots:
 
     void recoveryDeletesTheOldest_data()
     {
-        QTest::addColumn<QVector<LogFile>>("files");
-        QTest::addColumn<QString>("left");
-        using Files = QVector<LogFile>;
-        QTest::newRow("50.00") // within the target: one
-            << Files {{"a.log", 25 * MiB, 9}, {"b.log", 25 * MiB, 1}} << "b.log";
-        QTest::newRow("195.00") // above it: down to it
-            << Files {{"a.log", 1 * MiB, 9}, {"b.log", 4 * MiB, 5}, {"c.log", 190 * MiB, 1}}
-            << "c.log";
-        QTest::newRow("0.33") << Files {{"a.log", MiB / 3, 9}} << "";
-        QTest::newRow("0.00") << Files() << "";
+        const auto row = testcolumns<QVector<LogFile>, QString>("files", "left");
+        row("50.00", {{"a.log", 25 * MiB, 9}, {"b.log", 25 * MiB, 1}}, "b.log"); // enough: one
+        row("195.00", {{"a.log", 1 * MiB, 9}, {"b.log", 4 * MiB, 5}, {"c.log", 190 * MiB, 1}},
+            "c.log"); // too much: down to the target
+        row("0.33", {{"a.log", MiB / 3, 9}}, "");
+        row("0.00", {}, "");
     }
 
     void recoveryDeletesTheOldest()

@@ -1,6 +1,7 @@
 #include "logcapture.h"
 #include "offscreen.h"
 #include "recordingplugin.h"
+#include "testcolumns.h"
 
 #include <kest/expandsidebar.h>
 #include <kivra/physicalbuttonbar.h>
@@ -35,14 +36,9 @@ private Q_SLOTS:
     void initTestCase() { ignoreOffscreenNoise(); }
     void eachServiceReturnsItsCodes_data()
     {
-        QTest::addColumn<QString>("printedKey");
-        QTest::addColumn<int>("done");
-        QTest::addColumn<Service>("service");
+        const auto row = testcolumns<QString, int, Service>("printedKey", "done", "service");
         const QString longKey = "ostrel.zeplet.absent";
         const QString shortKey = "ostrel.absent";
-        const auto row = [](const char *name, const QString &key, int done, Service service) {
-            QTest::newRow(name) << key << done << service;
-        };
         const auto widget = [](const QString &n) { return n == "ui" ? newWidget() : nullptr; };
 
         row("CreateCenterWidget", shortKey, 0,

@@ -60,6 +60,13 @@ private Q_SLOTS:
         m_peer.reset(new FakePeer);
         m_thread.reset(new rpc::IoThread);
         m_client.reset(new Client(QStringLiteral("peer"), m_thread.data()));
+        m_delivered.clear();
+        m_onDelivery = [] {};
+        connect(m_client.data(), &Client::notified, this,
+                [this](const QString &, const QJsonValue &params) {
+                    m_delivered.append(params.toArray().at(0).toInt());
+                    m_onDelivery();
+                });
         QSignalSpy up(m_client.data(), &Client::up);
         m_client->open(m_peer->url());
         QVERIFY(up.wait());
@@ -119,18 +126,13 @@ private Q_SLOTS:
         m_peer->script("late", [](const rpc::Message &request) {
             return Frames {notification(1), notification(2), answerTo(request), notification(3)};
         });
-        QVector<int> delivered;
-        connect(m_client.data(), &Client::notified, this,
-                [&](const QString &, const QJsonValue &params) {
-                    QCOMPARE(thread(), QThread::currentThread());
-                    delivered.append(params.toArray().at(0).toInt());
-                });
+        m_onDelivery = [this] { QCOMPARE(thread(), QThread::currentThread()); };
         bool timerRan = false;
         QTimer::singleShot(0, this, [&] { timerRan = true; });
         QVERIFY(m_client->call("late", {}, 5000).isResult());
-        QVERIFY(delivered.isEmpty());
+        QVERIFY(m_delivered.isEmpty());
         QVERIFY(!timerRan);
-        QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
+        QTRY_COMPARE(m_delivered, (QVector<int> {1, 2, 3}));
     }
 
     void callbackComesOnce_data()
@@ -268,12 +270,10 @@ private Q_SLOTS:
         m_peer->script("flood", [](const rpc::Message &) {
             return Frames(rpc::maxUndelivered + 1000, notification(1));
         });
-        int notified = 0;
-        connect(m_client.data(), &Client::notified, this, [&] { ++notified; });
         announce("^peer: link closed: more arrives than the panel takes in$");
         QCOMPARE(m_client->call("flood", {}, 30000).status, Status::Lost);
         QTRY_COMPARE_WITH_TIMEOUT(down.size(), 1, 20000);
-        QCOMPARE(notified, rpc::maxUndelivered); // what had been taken in is not lost
+        QCOMPARE(m_delivered.size(), rpc::maxUndelivered); // what had been taken in is not lost
     }
 
     void silentPeerIsNoticed()
@@ -365,39 +365,31 @@ private Q_SLOTS:
 
     void closeInsideADelivery()
     {
-        QVector<int> delivered;
-        connect(m_client.data(), &Client::notified, this,
-                [&](const QString &, const QJsonValue &params) {
-                    delivered.append(params.toArray().at(0).toInt());
-                    m_client->close();
-                });
+        m_onDelivery = [this] { m_client->close(); };
         m_peer->script("go", [](const rpc::Message &) {
             return Frames {notification(1), notification(2)};
         });
         m_client->send("go", {}, 1000);
-        QTRY_COMPARE(delivered.size(), 1);
+        QTRY_COMPARE(m_delivered.size(), 1);
         QTRY_COMPARE(m_peer->clients(), 0);
         QCoreApplication::processEvents();
-        QCOMPARE(delivered.size(), 1);
+        QCOMPARE(m_delivered.size(), 1);
     }
 
     void throwingReceiverDoesNoHarm()
     {
         m_peer->answer("x", 1);
-        QVector<int> delivered;
-        connect(m_client.data(), &Client::notified, this,
-                [&](const QString &, const QJsonValue &params) {
-                    delivered.append(params.toArray().at(0).toInt());
-                    if (delivered.size() == 1)
-                        throw std::runtime_error("plugin fault 7");
-                    if (delivered.size() == 2)
-                        throw 7;
-                });
+        m_onDelivery = [this] {
+            if (m_delivered.size() == 1)
+                throw std::runtime_error("plugin fault 7");
+            if (m_delivered.size() == 2)
+                throw 7;
+        };
         announce("^peer: a receiver threw: plugin fault 7$");
         announce("^peer: a receiver threw no exception object$");
         for (int i = 0; i < 3; ++i)
             m_peer->notify("n", QJsonArray {i});
-        QTRY_COMPARE(delivered, (QVector<int> {0, 1, 2}));
+        QTRY_COMPARE(m_delivered, (QVector<int> {0, 1, 2}));
         announce("^peer: a receiver threw: in a callback$");
         QVERIFY(m_client->send("x", {}, 1000,
                                [](const Answer &) { throw std::logic_error("in a callback"); }));
@@ -409,18 +401,15 @@ private Q_SLOTS:
     // A handler that opens a dialog runs an event loop of its own: the rest has to come in there.
     void handlerWithAnEventLoop()
     {
-        QVector<int> delivered;
-        connect(m_client.data(), &Client::notified, this,
-                [&](const QString &, const QJsonValue &params) {
-                    delivered.append(params.toArray().at(0).toInt());
-                    if (delivered.size() == 1)
-                        QTRY_COMPARE(delivered.size(), 3);
-                });
+        m_onDelivery = [this] {
+            if (m_delivered.size() == 1)
+                QTRY_COMPARE(m_delivered.size(), 3);
+        };
         m_peer->script("go", [](const rpc::Message &request) {
             return Frames {notification(1), notification(2), notification(3), answerTo(request)};
         });
         QVERIFY(m_client->call("go", {}, 5000).isResult());
-        QTRY_COMPARE(delivered, (QVector<int> {1, 2, 3}));
+        QTRY_COMPARE(m_delivered, (QVector<int> {1, 2, 3}));
     }
 
     void joinedThreadStartsAgain()
@@ -436,6 +425,8 @@ private Q_SLOTS:
     }
 
 private:
+    QVector<int> m_delivered; ///< the numbers of the notifications
+    std::function<void()> m_onDelivery; ///< what their receiver does besides
     QScopedPointer<FakePeer> m_peer;
     QScopedPointer<rpc::IoThread> m_thread;
     QScopedPointer<Client> m_client;

@@ -3,7 +3,6 @@
 
 #include <zeplet/interface/interfacemanager.h>
 
-#include <QElapsedTimer>
 #include <QTest>
 
 using namespace zeplet;
@@ -73,6 +72,7 @@ private Q_SLOTS:
         auto *manager = zepletInterface();
         QVERIFY(manager->rcRequest("io", "ignored", {}, 60000));
         QVERIFY(manager->rcRequestFullCommand("io.ignored", {}, 60000));
+        QVERIFY(manager->rcExecRequest("io", "ignored", {}, false, 60000).isNull());
         QVERIFY(manager->rcExecRequestFullCommand("io.ignored", {}, false, 60000).isNull());
         m_fake.setControllerUp(false);
         LogCapture log;

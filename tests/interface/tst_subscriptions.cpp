@@ -85,6 +85,7 @@ private Q_SLOTS:
             = [&] { manager->connectNexoData(plugin, key, [&](const QVariant &) { ++calls; }); };
         const QString first = idAddedBy(subscribe);
         const QString second = idAddedBy(subscribe);
+        QVERIFY(zepletEvent()->totalSubscriptionIds(plugin).contains(second));
         QTRY_COMPARE(watches(m_fake.hub, key), QVector<bool> {true});
         changeHubKey(key, 1);
         QTRY_COMPARE(calls, 2);
@@ -164,6 +165,7 @@ private Q_SLOTS:
             = [&] { manager->connectRcNotify(plugin, path, [&](const QVariant &) { ++calls; }); };
         const QString first = idAddedBy(subscribe);
         const QString second = idAddedBy(subscribe);
+        QVERIFY(zepletEvent()->totalSubscriptionIds(plugin).contains(second));
         ostrel::ModuleObject *node = FakeController::manager()->cmdItemMobj("notify", path);
         const quint64 published = zepletEvent()->totalEventsPublished();
         node->set(nullptr, 1);

@@ -12,6 +12,11 @@ using brisa::TextSize;
 using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
 
+namespace
+{
+constexpr int SmallestColumn = 20 * metrics::Grid;
+}
+
 FactsCard::FactsCard(const QStringList &captions, QWidget *parent)
     : QFrame(parent)
 {
@@ -20,15 +25,14 @@ FactsCard::FactsCard(const QStringList &captions, QWidget *parent)
     grid->setContentsMargins(metrics::Margin, metrics::Margin, metrics::Margin, metrics::Margin);
     grid->setHorizontalSpacing(metrics::Margin);
     grid->setVerticalSpacing(metrics::Grid / 2);
+    m_grid = grid;
     for (int column = 0; column < captions.size(); ++column) {
         m_captions += new brisa::ElidedLabel(captions.at(column), this);
         m_values += new brisa::ElidedLabel(QString(), this);
         m_captions.last()->setFont(ThemeManager::font(TextSize::Caption));
         m_values.last()->setFont(ThemeManager::font(TextSize::Body, true));
-        grid->addWidget(m_captions.last(), 0, column);
-        grid->addWidget(m_values.last(), 1, column);
-        grid->setColumnStretch(column, 1);
     }
+    place(captions.size());
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &FactsCard::applyTheme);
     applyTheme();
 }
@@ -38,6 +42,25 @@ void FactsCard::setValues(const QStringList &values)
     for (int i = 0; i < m_values.size(); ++i) {
         const QString value = values.value(i);
         m_values.at(i)->setText(value.isEmpty() ? QStringLiteral("\u2013") : value);
+    }
+}
+
+void FactsCard::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    const int all = m_values.size();
+    place(width() / all < SmallestColumn ? (all + 1) / 2 : all);
+}
+
+void FactsCard::place(int columns)
+{
+    if (columns == m_columns)
+        return;
+    m_columns = columns;
+    for (int i = 0; i < m_values.size(); ++i) {
+        m_grid->addWidget(m_captions.at(i), i / columns * 2, i % columns);
+        m_grid->addWidget(m_values.at(i), i / columns * 2 + 1, i % columns);
+        m_grid->setColumnStretch(i, i < columns ? 1 : 0);
     }
 }
 

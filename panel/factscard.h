@@ -4,6 +4,8 @@
 #include <QList>
 #include <QStringList>
 
+class QGridLayout;
+
 namespace brisa
 {
 class ElidedLabel;
@@ -12,7 +14,8 @@ class ElidedLabel;
 namespace panel
 {
 
-/** A card with a few facts side by side: a caption and a text each. */
+/** A card with a few facts side by side, in two rows where it is narrow: a caption and a text each.
+ */
 class FactsCard : public QFrame
 {
     Q_OBJECT
@@ -23,9 +26,15 @@ public:
     /** One text per caption; a dash stands for an empty one. */
     void setValues(const QStringList &values);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void place(int columns);
     void applyTheme();
 
+    QGridLayout *m_grid = nullptr;
+    int m_columns = 0;
     QList<brisa::ElidedLabel *> m_captions;
     QList<brisa::ElidedLabel *> m_values;
 };

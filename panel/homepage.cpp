@@ -36,7 +36,7 @@ Reading pluginReading(int running, int troubled)
     if (troubled > 0)
         return {brisa::Glyph::Warning, Tone::Warning,
                 HomePage::tr("%1 of %2").arg(running).arg(running + troubled),
-                HomePage::tr("The page \"Plugins\" says why")};
+                HomePage::tr("The page \"Overview\" says why")};
     return {brisa::Glyph::Plugin, Tone::Neutral, QString::number(running),
             HomePage::tr("All plugins are running")};
 }

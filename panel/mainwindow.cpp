@@ -29,6 +29,7 @@ namespace
 {
 
 constexpr QSize PanelSize(1280, 800);
+constexpr int LongestName = 240; // before it is elided
 
 } // namespace
 
@@ -117,6 +118,7 @@ void MainWindow::refreshBadges()
 {
     const QString name = m_robot.identity();
     m_name->setText(name.isEmpty() ? tr("Robot panel") : name);
+    m_name->setMinimumWidth(qMin(m_name->sizeHint().width(), LongestName));
     m_connection->setReading(connectionReading(m_robot));
     m_mode->setReading(modeReading(m_robot));
     m_power->setReading(powerReading(m_robot));

@@ -72,7 +72,7 @@ Reading userReading(const RobotState &robot)
     if (!robot.userLevel() || !robot.controllerConnected())
         return unknown(robot, Glyph::User);
     return {Glyph::User, Tone::Neutral, tr("Level %1").arg(*robot.userLevel()),
-            tr("What the user may change")};
+            tr("Says what may be changed")};
 }
 
 } // namespace panel

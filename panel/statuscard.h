@@ -6,15 +6,11 @@
 
 class QLabel;
 
-namespace brisa
-{
-class ElidedLabel;
-}
-
 namespace panel
 {
 
-/** A card with a caption and one reading: pictogram, value, hint. */
+/** A card with a caption and one reading: pictogram, value, hint. Its texts wrap, and the value's
+ * type shrinks where it is too wide. */
 class StatusCard : public QFrame
 {
     Q_OBJECT
@@ -24,14 +20,19 @@ public:
 
     void setReading(const Reading &reading);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void fitValue();
     void applyTheme();
 
     Reading m_reading;
     QLabel *m_picture;
-    brisa::ElidedLabel *m_caption;
-    brisa::ElidedLabel *m_value;
-    brisa::ElidedLabel *m_hint;
+    QLabel *m_caption;
+    QLabel *m_value;
+    QLabel *m_hint;
 };
 
 } // namespace panel

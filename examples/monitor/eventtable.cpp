@@ -4,20 +4,23 @@
 
 #include <QHeaderView>
 #include <QJsonDocument>
+#include <QPainter>
 
 namespace
 {
 constexpr int maximumRows = 200;
+constexpr int longestColumn = 280; // longer texts are elided; the tool tip has them whole
 constexpr int touchHeight = 53; // a finger's width on the panel
 
-QString dataText(const QVariant &data)
+} // namespace
+
+QString EventTable::dataText(const QVariant &data)
 {
     if (!data.isValid())
         return QStringLiteral("–");
     const QJsonDocument json = QJsonDocument::fromVariant(data);
     return json.isNull() ? data.toString() : QString::fromUtf8(json.toJson(QJsonDocument::Compact));
 }
-} // namespace
 
 EventTable::EventTable(QWidget *parent)
     : QTableWidget(0, 5, parent)
@@ -26,6 +29,8 @@ EventTable::EventTable(QWidget *parent)
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMaximumSectionSize(longestColumn);
+    setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(touchHeight);
     setEditTriggers(NoEditTriggers);
@@ -51,4 +56,14 @@ void EventTable::add(const zeplet::ZepletEvent &event)
         setItem(0, column, item);
     }
     setRowCount(qMin(rowCount(), maximumRows));
+}
+
+void EventTable::paintEvent(QPaintEvent *event)
+{
+    QTableWidget::paintEvent(event);
+    if (rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("No events yet"));
 }

@@ -15,6 +15,12 @@ class EventTable : public QTableWidget
 public:
     explicit EventTable(QWidget *parent = nullptr);
 
+    /** What an event carries, for reading. */
+    static QString dataText(const QVariant &data);
+
     /** Adds a row at the top; the oldest row goes where there are too many. */
     void add(const zeplet::ZepletEvent &event);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -8,11 +8,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace
 {
-constexpr int touchHeight = 53;
+constexpr int touchHeight = 56; // 9 mm on the panel and more
+constexpr int margin = 24;
+constexpr int spacing = 16;
 
 QPushButton *touchButton(const QString &text, QWidget *parent)
 {
@@ -28,13 +31,11 @@ MonitorPage::MonitorPage(const QString &pluginName, QWidget *parent)
     , m_table(new EventTable(this))
 {
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->setSpacing(16);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(spacing);
     layout->addWidget(createHeader());
     layout->addWidget(createWatchLine());
-    m_chips = new QHBoxLayout;
-    m_chips->addStretch();
-    layout->addLayout(m_chips);
+    layout->addWidget(createChipArea());
     layout->addWidget(m_table, 1);
 }
 
@@ -54,7 +55,7 @@ QWidget *MonitorPage::createHeader()
     auto *layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
     auto *title = new QLabel(tr("Event monitor"), header);
-    title->setProperty("role", "title");
+    title->setProperty("role", "heading");
     auto *fullScreen = touchButton(tr("Full screen"), header);
     fullScreen->setCheckable(true);
     connect(fullScreen, &QPushButton::toggled, this, &MonitorPage::fullScreenRequested);
@@ -68,6 +69,7 @@ QWidget *MonitorPage::createWatchLine()
     auto *line = new QWidget(this);
     auto *layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing / 2);
     m_name = new QLineEdit(line);
     m_name->setObjectName(QStringLiteral("watchName"));
     m_name->setMinimumHeight(touchHeight);
@@ -80,6 +82,27 @@ QWidget *MonitorPage::createWatchLine()
     layout->addWidget(hub);
     layout->addWidget(notify);
     return line;
+}
+
+// However many there are: they are scrolled, never cut.
+QWidget *MonitorPage::createChipArea()
+{
+    m_chipArea = new QScrollArea(this);
+    m_chipArea->setFrameShape(QFrame::NoFrame);
+    m_chipArea->setProperty("role", "plain");
+    m_chipArea->setWidgetResizable(true);
+    m_chipArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_chipArea->setFixedHeight(touchHeight + spacing);
+    auto *content = new QWidget;
+    m_chips = new QHBoxLayout(content);
+    m_chips->setContentsMargins(0, 0, 0, spacing);
+    m_chips->setSpacing(spacing / 2);
+    m_chips->addStretch();
+    m_chipArea->setWidget(content);
+    m_chipArea->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    m_chipArea->hide();
+    return m_chipArea;
 }
 
 void MonitorPage::startWatch(WatchList::Kind kind)
@@ -97,7 +120,10 @@ void MonitorPage::addChip(WatchList::Kind kind, const QString &name)
     chip->setToolTip(tr("Tap to stop watching"));
     connect(chip, &QPushButton::clicked, this, [this, chip, kind, name] {
         m_watches.remove(kind, name);
+        m_chips->removeWidget(chip);
         chip->deleteLater();
+        m_chipArea->setVisible(m_chips->count() > 1);
     });
     m_chips->insertWidget(m_chips->count() - 1, chip);
+    m_chipArea->show();
 }

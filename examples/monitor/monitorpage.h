@@ -8,6 +8,7 @@ class EventTable;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 
 namespace zeplet
 {
@@ -31,11 +32,13 @@ Q_SIGNALS:
 private:
     QWidget *createHeader();
     QWidget *createWatchLine();
+    QWidget *createChipArea();
     void startWatch(WatchList::Kind kind);
     void addChip(WatchList::Kind kind, const QString &name);
 
     WatchList m_watches;
     QLineEdit *m_name = nullptr;
+    QScrollArea *m_chipArea = nullptr;
     QHBoxLayout *m_chips = nullptr;
     EventTable *m_table = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "monitorplugin.h"
 
+#include "eventtable.h"
 #include "monitorpage.h"
 
 #include <zeplet/zeplet.h>
@@ -18,6 +19,16 @@ const bool registered = [] {
     zepletFactory().regist(pluginName, [](QObject *parent) { return new MonitorPlugin(parent); });
     return true;
 }();
+
+QString details(const ZepletEvent &event)
+{
+    const QString time = event.timestamp.toLocalTime().toString(QStringLiteral("hh:mm:ss.zzz"));
+    return QStringList {eventTypeToString(event.type),
+                        MonitorPlugin::tr("No. %1 at %2").arg(QString::number(event.seq), time),
+                        MonitorPlugin::tr("from %1").arg(event.source), QString(),
+                        EventTable::dataText(event.data)}
+        .join(QLatin1Char('\n'));
+}
 
 void writeLog(const ZepletEvent &event)
 {
@@ -51,18 +62,33 @@ void MonitorPlugin::detach()
 void MonitorPlugin::createUi()
 {
     m_page = new MonitorPage(pluginName);
-    connect(m_page, &MonitorPage::fullScreenRequested, this,
-            [](bool full) { ChangeFullScreen(pluginName, full); });
+    connect(m_page, &MonitorPage::fullScreenRequested, this, &MonitorPlugin::changeFullScreen);
     CreateCenterWidget(pluginName, m_page);
 
-    m_status = new QLabel(tr("No events"));
+    m_status = new QLabel(tr("Events: %1").arg(0));
     CreateStatusBar(pluginName, m_status, 0);
 
     m_last = new QLabel(tr("The last event appears here."));
+    m_last->setWindowTitle(tr("Last event"));
+    m_last->setTextFormat(Qt::PlainText);
     m_last->setWordWrap(true);
     m_last->setMargin(16);
     m_last->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     CreateRightExpandWidgte(pluginName, m_last, QString());
+}
+
+// Out of the panel the page no longer inherits the panel's style sheet: it takes it along.
+void MonitorPlugin::changeFullScreen(bool full)
+{
+    QString sheet;
+    for (const QWidget *widget = m_page->parentWidget(); full && widget;
+         widget = widget->parentWidget())
+        sheet.prepend(widget->styleSheet());
+    if (full)
+        m_page->setStyleSheet(sheet);
+    ChangeFullScreen(pluginName, full);
+    if (!full)
+        m_page->setStyleSheet(QString());
 }
 
 void MonitorPlugin::createButtons()
@@ -104,6 +130,6 @@ void MonitorPlugin::receive(const ZepletEvent &event)
     if (m_paused || !m_page)
         return;
     m_page->show(event);
-    m_status->setText(tr("%n event(s)", nullptr, m_count));
-    m_last->setText(event.toString());
+    m_status->setText(tr("Events: %1").arg(m_count));
+    m_last->setText(details(event));
 }

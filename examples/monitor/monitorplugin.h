@@ -25,6 +25,7 @@ public:
 
 private:
     void createUi();
+    void changeFullScreen(bool full);
     void createButtons();
     void subscribe();
     void receive(const zeplet::ZepletEvent &event);

@@ -35,6 +35,12 @@ QString sourceOf(QObject *sender)
     return sender ? sender->objectName() : QString();
 }
 
+QString rowText(LogMessage message)
+{
+    message.text = message.text.simplified();
+    return messageLine(message);
+}
+
 GlyphLabel *makeCount(const QString &level, Tone tone, QWidget *parent)
 {
     auto *const label = new GlyphLabel(LogBanner::levelGlyph(level), QString(), tone, parent);
@@ -178,11 +184,12 @@ void LogBanner::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), theme->levelBackground(level()));
     painter.fillRect(0, 0, width(), 1, theme->colours().border);
-    if (!message().isEmpty()) {
-        const QPixmap icon = glyphPixmap(levelGlyph(level()), theme->levelColour(level()),
-                                         metrics::Icon, devicePixelRatioF());
-        painter.drawPixmap(IconLeft, (height() - metrics::Icon) / 2, icon);
-    }
+    const bool quiet = m_history->messages().isEmpty();
+    const QPixmap icon
+        = glyphPixmap(quiet ? Glyph::Ok : levelGlyph(level()),
+                      quiet ? theme->colours().mutedText : theme->levelColour(level()),
+                      metrics::Icon, devicePixelRatioF());
+    painter.drawPixmap(IconLeft, (height() - metrics::Icon) / 2, icon);
 }
 
 void LogBanner::mouseReleaseEvent(QMouseEvent *event)
@@ -202,10 +209,9 @@ bool LogBanner::eventFilter(QObject *watched, QEvent *event)
 void LogBanner::refresh()
 {
     const ThemeColours &colours = ThemeManager::instance()->colours();
-    const LogMessage newest = m_history->messages().value(0);
-    const QString text = newest.text.simplified();
-    m_text->setText(newest.source.isEmpty() ? text : newest.source + QStringLiteral(":  ") + text);
-    m_text->setColour(colours.text);
+    const bool quiet = m_history->messages().isEmpty();
+    m_text->setText(quiet ? tr("No messages") : rowText(m_history->messages().first()));
+    m_text->setColour(quiet ? colours.mutedText : colours.text);
     const int warnings = count(QStringLiteral("warning"));
     const int errors = count(QStringLiteral("error"));
     m_warnings->setText(QString::number(warnings));

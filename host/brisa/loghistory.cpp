@@ -16,7 +16,9 @@ QString knownLevel(const QString &level)
     return special ? level : QStringLiteral("info");
 }
 
-QString lineOf(const LogMessage &message)
+} // namespace
+
+QString messageLine(const LogMessage &message)
 {
     QString line = message.time.toString(QStringLiteral("hh:mm:ss")) + QStringLiteral("   ");
     if (!message.source.isEmpty())
@@ -26,8 +28,6 @@ QString lineOf(const LogMessage &message)
         line += QStringLiteral("  (%1x)").arg(message.count);
     return line;
 }
-
-} // namespace
 
 void LogHistory::add(const QString &source, const QString &level, const QString &text)
 {
@@ -81,7 +81,7 @@ QVariant LogHistory::data(const QModelIndex &index, int role) const
         return {};
     const LogMessage &message = m_messages.at(index.row());
     if (role == Qt::DisplayRole)
-        return lineOf(message);
+        return messageLine(message);
     if (role == Qt::DecorationRole) {
         const QColor colour = ThemeManager::instance()->levelColour(message.level);
         return glyphPixmap(LogBanner::levelGlyph(message.level), colour);

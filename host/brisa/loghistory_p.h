@@ -18,6 +18,9 @@ struct LogMessage {
     int count = 1;
 };
 
+/** The message as one line: time, source, text, and how often. */
+QString messageLine(const LogMessage &message);
+
 /** The banner's messages, the newest first, at most Limit of them. */
 class LogHistory : public QAbstractListModel
 {

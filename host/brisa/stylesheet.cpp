@@ -11,6 +11,7 @@ namespace
 {
 
 // Colours are written as @name. A control's content of 38 px makes 56 with its padding and border.
+// Line edits take their colour from the palette: one of their own would be the placeholder's, too.
 // Combo boxes, spin boxes and check boxes keep the style's own drawing: with a border of their own
 // they would need pictures for their arrows and marks.
 const char *const Rules = R"(
@@ -18,6 +19,7 @@ QLabel { background: transparent; }
 QLabel[role="heading"] { font-size: 24px; font-weight: bold; }
 QLabel[role="title"] { font-size: 18px; font-weight: bold; }
 QLabel[role="caption"] { font-size: 13px; color: @mutedText; }
+QLabel[role="muted"] { color: @mutedText; }
 QLabel[role="ok"] { color: @ok; font-weight: bold; }
 QLabel[role="warning"] { color: @warning; font-weight: bold; }
 QLabel[role="error"] { color: @error; font-weight: bold; }
@@ -43,8 +45,7 @@ QPushButton[role="primary"]:disabled, QPushButton[role="danger"]:disabled {
 
 QLineEdit {
     min-height: 38px; padding: 8px 12px; border: 1px solid @border; border-radius: 6px;
-    background: @surface; color: @text; selection-background-color: @accent;
-    selection-color: @onAccent;
+    background: @surface; selection-background-color: @accent; selection-color: @onAccent;
 }
 QLineEdit:focus { border-color: @accent; }
 QLineEdit:disabled { color: @disabledText; background: @raised; }
@@ -59,8 +60,9 @@ QPlainTextEdit, QTextEdit, QAbstractItemView {
 QAbstractItemView[role="plain"] { border: none; }
 QAbstractItemView::item { border: none; padding: 8px; }
 QAbstractItemView::item:selected { background: @accentSoft; color: @text; }
+QHeaderView { background: @raised; border: none; border-radius: 0; }
 QHeaderView::section {
-    background: @raised; color: @mutedText; padding: 8px; border: none;
+    background: @raised; color: @mutedText; padding: 8px 10px; border: none;
     border-bottom: 1px solid @border; font-size: 13px;
 }
 QTableView { gridline-color: @border; }
@@ -95,6 +97,9 @@ QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::su
 QAbstractScrollArea::corner { background: transparent; border: none; }
 QToolTip { background: @raised; color: @text; border: 1px solid @border; padding: 8px; }
 QMenu { background: @surface; border: 1px solid @border; padding: 4px; }
+QToolButton[role="caption"]:disabled {
+    background: transparent; border-color: transparent; color: @text;
+}
 QMenu::item { min-height: 40px; padding: 8px 24px; border-radius: 4px; }
 QMenu::item:selected { background: @accentSoft; color: @text; }
 )";

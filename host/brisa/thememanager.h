@@ -21,8 +21,8 @@ constexpr int Radius = 6;
 constexpr int Icon = 24;
 } // namespace metrics
 
-/** The four sizes of type, in pixels. */
-enum class TextSize { Caption = 13, Body = 15, Title = 18, Heading = 24 };
+/** The five sizes of type, in pixels. */
+enum class TextSize { Caption = 13, Body = 15, Title = 18, Heading = 24, Display = 30 };
 
 enum class Theme { Light, Dark };
 
@@ -76,8 +76,9 @@ public:
 
     /**
      * The host's global style sheet, for pages. Widgets choose a variant by dynamic properties: a
-     * QPushButton "role" = "primary" or "danger"; a QLabel "role" = "heading", "title", "caption",
-     * "ok", "warning" or "error"; a QFrame "role" = "card".
+     * QPushButton "role" = "primary" or "danger"; a QToolButton "caption", which looks like a
+     * heading while it is disabled; a QLabel "role" = "heading", "title", "caption",
+     * "muted", "ok", "warning" or "error"; a QFrame "role" = "card".
      */
     QString styleSheet() const;
     /** Grows with each change of theme. */

@@ -3,12 +3,14 @@
 #include "brisa/elidedlabel.h"
 #include "brisa/glyph.h"
 #include "brisa/thememanager.h"
+#include "brisa/touchscrollarea_p.h"
 #include "kest/keyedwidgets_p.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -17,6 +19,20 @@ namespace
 {
 
 constexpr int BarWidth = 40 * brisa::metrics::Grid;
+
+/** As large as the page that it shows asks for, whatever the others ask for. */
+class PageStack : public QStackedWidget
+{
+public:
+    using QStackedWidget::QStackedWidget;
+
+    QSize minimumSizeHint() const override
+    {
+        const QWidget *const page = currentWidget();
+        return page ? page->minimumSizeHint().expandedTo(page->minimumSize()) : QSize();
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
+};
 
 QPointer<kest::ExpandSideBar> &instance()
 {
@@ -43,7 +59,7 @@ namespace kest
 ExpandSideBar::ExpandSideBar(QWidget *parent)
     : QWidget(parent)
     , m_pages(new KeyedWidgets(this))
-    , m_stack(new QStackedWidget(this))
+    , m_stack(new PageStack(this))
     , m_title(new brisa::ElidedLabel(QString(), this))
     , m_choose(makeButton(QStringLiteral("choose"), tr("Choose a page"), this))
     , m_close(makeButton(QStringLiteral("close"), tr("Close"), this))
@@ -52,7 +68,6 @@ ExpandSideBar::ExpandSideBar(QWidget *parent)
         instance() = this;
     setVisible(false);
     setFixedWidth(BarWidth);
-    m_stack->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     buildLayout();
     applyTheme();
     refreshHeader();
@@ -83,7 +98,11 @@ void ExpandSideBar::buildLayout()
     column->setContentsMargins(1, 0, 0, 0);
     column->setSpacing(0);
     column->addLayout(header);
-    column->addWidget(m_stack, 1);
+    // A page that needs more room than the bar has is scrolled instead of being cut.
+    m_scroll = new brisa::TouchScrollArea(brisa::TouchScrollArea::By::Flick, this);
+    m_scroll->setWidget(m_stack);
+    m_stack->setAutoFillBackground(false);
+    column->addWidget(m_scroll, 1);
 }
 
 bool ExpandSideBar::addPage(QObject *module, const QString &key, QWidget *page)
@@ -126,19 +145,23 @@ void ExpandSideBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), colours.surface);
     painter.fillRect(0, 0, 1, height(), colours.border);
-    painter.fillRect(0, m_stack->y() - 1, width(), 1, colours.border);
+    painter.fillRect(0, m_scroll->y() - 1, width(), 1, colours.border);
 }
 
 void ExpandSideBar::applyTheme()
 {
     const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
     m_close->setIcon(brisa::glyphIcon(brisa::Glyph::Close, colours.text, colours.disabledText));
+    // The bars alone: a page that wants its own looks must not inherit a style sheet.
+    for (QWidget *const bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
+        bar->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
     m_choose->setIcon(brisa::glyphIcon(brisa::Glyph::List, colours.text, colours.disabledText));
     update();
 }
 
 void ExpandSideBar::refreshHeader()
 {
+    m_stack->updateGeometry();
     const QWidget *const current = m_stack->currentWidget();
     m_title->setText(current ? titleOf(current) : QString());
     m_choose->setVisible(m_stack->count() > 1);

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QWidget>
 
+class QScrollArea;
 class QStackedWidget;
 class QToolButton;
 
@@ -20,7 +21,8 @@ class KeyedWidgets;
 
 /**
  * A side bar that shows one of its keyed pages below a title, with a button that closes the bar and
- * one that chooses among several pages. A page's window title is its title. Hidden until someone
+ * one that chooses among several pages. A page's window title is its title. A page larger than
+ * the bar is scrolled. Hidden until someone
  * shows it, and when its last page goes. GUI thread.
  */
 class HOST_EXPORT ExpandSideBar : public QWidget
@@ -53,6 +55,7 @@ private:
 
     KeyedWidgets *m_pages;
     QStackedWidget *m_stack;
+    QScrollArea *m_scroll = nullptr;
     brisa::ElidedLabel *m_title;
     QToolButton *m_choose;
     QToolButton *m_close;

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class QScrollArea;
 
 namespace kest
 {
@@ -44,6 +45,7 @@ protected:
 private:
     KeyedWidgets *m_items;
     QHBoxLayout *m_row;
+    QScrollArea *m_strip; ///< modules' items left of the stretch
 };
 
 } // namespace kest

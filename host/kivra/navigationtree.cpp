@@ -102,6 +102,20 @@ QVector<NavigationGroup> NavigationTree::groups() const
     return groups;
 }
 
+QString NavigationTree::titleOf(QObject *module) const
+{
+    const QList<OwnedEntry> entries = m_owned.values(module);
+    if (entries.isEmpty())
+        return {};
+    const OwnedEntry &first = entries.last(); // the hash lists the newest first
+    const QJsonArray pages = pageList(first.parent)->exportToJson(true).toArray();
+    for (const QJsonValue &page : pages) {
+        if (page.toObject().value(QLatin1String("id")).toString() == first.id)
+            return page.toObject().value(QLatin1String("title")).toString();
+    }
+    return {};
+}
+
 void NavigationTree::watchGroup(const QString &parent)
 {
     if (!m_parents.contains(parent))

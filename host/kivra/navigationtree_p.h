@@ -55,6 +55,8 @@ public:
 
     /** What the store holds now, groups in the order in which their parents were first named. */
     QVector<NavigationGroup> groups() const;
+    /** The title of the module's first entry; empty for a module without one. */
+    QString titleOf(QObject *module) const;
 
 Q_SIGNALS:
     /** Emitted once from the event loop for any number of changes. */

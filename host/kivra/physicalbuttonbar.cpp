@@ -3,7 +3,9 @@
 #include "brisa/glyph.h"
 #include "brisa/thememanager.h"
 #include "brisa/touchscrollarea_p.h"
+#include "kest/bmodule.h"
 #include "kest/centerwidget.h"
+#include "kivra/navigationtree_p.h"
 #include "kivra/physicalbuttonregistry_p.h"
 #include "kivra/physicalkey_p.h"
 
@@ -26,6 +28,17 @@ namespace
 constexpr int SelectorTextWidth = 11 * metrics::Grid;
 constexpr int KeysWithoutScrolling = 14; // of the least width, on a panel of 1280 pixels
 constexpr int ScrollBarHeight = 2 * metrics::Grid;
+
+// A page of keys that bears its module's own name is known to the operator by the title under which
+// the module stands in the navigation.
+QString titleOf(const KeyPage &page)
+{
+    const auto *const module = qobject_cast<const kest::BModule *>(page.module);
+    if (!module || module->mobjKey().section(QLatin1Char('.'), 2) != page.name)
+        return page.name;
+    const QString title = NavigationTree::instance().titleOf(page.module);
+    return title.isEmpty() ? page.name : title;
+}
 } // namespace
 
 PhysicalButtonBar::PhysicalButtonBar(Qt::Orientation orientation, QWidget *parent)
@@ -60,11 +73,12 @@ void PhysicalButtonBar::buildLayout()
     box->addWidget(m_scroll, 1);
     buildKeyArea();
     m_selector->setObjectName(QStringLiteral("keyPageSelector"));
+    m_selector->setProperty("role", QStringLiteral("caption"));
     m_selector->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_selector->setFixedHeight(metrics::Touch);
     m_selector->setSizePolicy(horizontal ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                               QSizePolicy::Fixed);
-    m_selector->setFont(ThemeManager::font(brisa::TextSize::Caption, true));
+    m_selector->setFont(ThemeManager::font(brisa::TextSize::Body, true));
     m_selector->setIconSize({metrics::Icon, metrics::Icon});
     if (!horizontal)
         setFixedWidth(26 * metrics::Grid);
@@ -91,7 +105,7 @@ void PhysicalButtonBar::paintEvent(QPaintEvent *)
 {
     const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
     QPainter painter(this);
-    painter.fillRect(rect(), colours.surface);
+    painter.fillRect(rect(), colours.window);
     if (m_orientation == Qt::Horizontal)
         painter.fillRect(0, 0, width(), 1, colours.border);
     else
@@ -157,11 +171,15 @@ void PhysicalButtonBar::refreshSelector()
     m_selector->setStyleSheet(ThemeManager::instance()->styleSheet()
                               + QStringLiteral("QToolButton { min-width: %1px; }")
                                     .arg(metrics::Icon + SelectorTextWidth));
-    m_selector->setIcon(brisa::glyphIcon(brisa::Glyph::Key, colours.text, colours.disabledText));
-    m_selector->setText(QFontMetrics(m_selector->font())
-                            .elidedText(m_page->name, Qt::ElideRight, SelectorTextWidth));
-    m_selector->setToolTip(m_page->name.toHtmlEscaped());
-    m_selector->setEnabled(PhysicalButtonRegistry::instance().pages().size() > 1);
+    // With a single page there is nothing to choose: the selector is its heading then.
+    const bool choice = PhysicalButtonRegistry::instance().pages().size() > 1;
+    m_selector->setIcon(brisa::glyphIcon(choice ? brisa::Glyph::Down : brisa::Glyph::Key,
+                                         colours.text, colours.mutedText));
+    const QString title = titleOf(*m_page);
+    m_selector->setText(
+        QFontMetrics(m_selector->font()).elidedText(title, Qt::ElideRight, SelectorTextWidth));
+    m_selector->setToolTip(title.toHtmlEscaped());
+    m_selector->setEnabled(choice);
 }
 
 void PhysicalButtonBar::addKeys()
@@ -202,10 +220,11 @@ void PhysicalButtonBar::choosePage()
     menu->setStyleSheet(ThemeManager::instance()->styleSheet());
     for (const KeyPagePtr &page : PhysicalButtonRegistry::instance().pages()) {
         const QWeakPointer<KeyPage> chosen = page;
-        menu->addAction(page->name, this, [this, chosen] {
-            if (const KeyPagePtr still = chosen.toStrongRef())
-                showPage(still);
-        });
+        menu->addAction(titleOf(*page).replace(QLatin1Char('&'), QLatin1String("&&")), this,
+                        [this, chosen] {
+                            if (const KeyPagePtr still = chosen.toStrongRef())
+                                showPage(still);
+                        });
     }
     menu->popup(m_selector->mapToGlobal(QPoint(0, m_selector->height())));
 }

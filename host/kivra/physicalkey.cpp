@@ -16,8 +16,11 @@ using brisa::ThemeManager;
 namespace
 {
 constexpr int KeyWidth = 12 * metrics::Grid;
-constexpr int TextMargin = 6;
+constexpr int TextMargin = 4;
 constexpr int TextTop = 32; // below an icon
+constexpr int Lip = 3; // the edge below a key that stands up
+
+constexpr int FaceFlags = Qt::AlignCenter | Qt::TextWordWrap;
 } // namespace
 
 PhysicalKey::PhysicalKey(const KeyPagePtr &page, int row, int column, QWidget *parent)
@@ -27,7 +30,7 @@ PhysicalKey::PhysicalKey(const KeyPagePtr &page, int row, int column, QWidget *p
     , m_column(column)
 {
     setText(page->rows[row].at(column).label);
-    setFont(ThemeManager::font(brisa::TextSize::Caption));
+    setFont(ThemeManager::font(brisa::TextSize::Body));
     setMinimumSize(metrics::Touch, metrics::Touch);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
@@ -67,37 +70,56 @@ void PhysicalKey::paintEvent(QPaintEvent *)
     const ThemeColours &colours = ThemeManager::instance()->colours();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF key = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setPen(isDown() ? colours.accent : colours.border);
+    painter.setBrush(isDown() ? colours.accent : colours.border);
+    painter.drawRoundedRect(key, metrics::Radius, metrics::Radius);
     painter.setBrush(isDown()          ? colours.accentSoft
-                         : isEnabled() ? colours.raised
-                                       : colours.surface);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), metrics::Radius,
+                         : isEnabled() ? colours.surface
+                                       : colours.raised);
+    painter.drawRoundedRect(isDown() ? key : key.adjusted(0, 0, 0, -Lip), metrics::Radius,
                             metrics::Radius);
+    if (!isDown())
+        painter.translate(0, -Lip / 2);
     painter.setPen(isEnabled() ? colours.text : colours.disabledText);
     paintFace(painter);
 }
 
 void PhysicalKey::paintFace(QPainter &painter) const
 {
-    QRect box = rect().adjusted(TextMargin, 0, -TextMargin, 0);
     const QIcon face = icon();
     if (!face.isNull()) {
         const int top = text().isEmpty() ? (height() - metrics::Icon) / 2 : TextMargin;
         const QRect picture((width() - metrics::Icon) / 2, top, metrics::Icon, metrics::Icon);
         face.paint(&painter, picture, Qt::AlignCenter,
                    isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        box.setTop(TextTop);
-        box.setBottom(height() - TextMargin);
     }
-    painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, box.width()));
+    const QRect box = textBox();
+    if (textFits())
+        painter.drawText(box, FaceFlags, text());
+    else
+        painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, box.width()));
+}
+
+QRect PhysicalKey::textBox() const
+{
+    const QRect face = rect().adjusted(TextMargin, 0, -TextMargin, 0);
+    return icon().isNull() ? face : face.adjusted(0, TextTop, 0, -TextMargin);
+}
+
+/** On one line or, between words, on several. */
+bool PhysicalKey::textFits() const
+{
+    const QRect box = textBox();
+    const QSize size = fontMetrics().boundingRect(box, FaceFlags, text()).size();
+    return size.width() <= box.width() && size.height() <= box.height();
 }
 
 void PhysicalKey::resizeEvent(QResizeEvent *event)
 {
     QAbstractButton::resizeEvent(event);
-    const bool elided = fontMetrics().horizontalAdvance(text()) > width() - 2 * TextMargin;
-    setToolTip(elided ? text().toHtmlEscaped() : QString());
+    setToolTip(textFits() ? QString() : text().toHtmlEscaped());
 }
 
 void PhysicalKey::hideEvent(QHideEvent *event)

@@ -32,6 +32,8 @@ protected:
 
 private:
     void press();
+    QRect textBox() const;
+    bool textFits() const;
     void paintFace(QPainter &painter) const;
     QIcon icon() const;
 

@@ -43,6 +43,9 @@ SystemPage::SystemPage(QWidget *parent)
     : QWidget(parent)
     , m_rowArea(new QWidget)
 {
+    auto *const title = new QLabel(tr("Plugins"), this);
+    title->setProperty("role", QStringLiteral("heading"));
+
     auto *const cards = new QHBoxLayout;
     cards->setSpacing(Spacing);
     cards->addWidget(makeVersions(), 1);
@@ -64,6 +67,7 @@ SystemPage::SystemPage(QWidget *parent)
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(Spacing);
+    column->addWidget(title);
     column->addLayout(cards);
     column->addWidget(scroll, 1);
 }

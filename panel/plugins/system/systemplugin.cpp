@@ -32,6 +32,17 @@ void destroyBusWithPanel()
                      });
 }
 
+// The module entered the page just before init(); a plugin's entry has no pictogram otherwise.
+void choosePictogram(QObject *origin)
+{
+    ostrel::ModuleObject *const pages = m(QStringLiteral("kivra.page.robot.page.pack.page"));
+    for (int i = 0; i < pages->childCount(); ++i) {
+        ostrel::ModuleObject *const entry = pages->r(QLatin1Char('#') + QString::number(i));
+        if (entry->getStr(QStringLiteral("nav"), QString()) == QLatin1String("zeplet.zeplet"))
+            entry->set(origin, QStringLiteral("icon"), QStringLiteral("plugin"), true);
+    }
+}
+
 [[maybe_unused]] const bool registered = [] {
     zeplet::zepletFactory().regist(pluginName(),
                                    [](QObject *parent) { return new SystemPlugin(parent); });
@@ -43,7 +54,7 @@ void destroyBusWithPanel()
 SystemPlugin::SystemPlugin(QObject *parent)
     : PluginBase(parent)
 {
-    setPluginLabel(tr("Plugins"));
+    setPluginLabel(tr("Overview"));
     destroyBusWithPanel();
 }
 
@@ -52,6 +63,7 @@ void SystemPlugin::init()
     m_page = new SystemPage;
     connect(m_page, &SystemPage::tryAgain, this, &SystemPlugin::requestRetry);
     zeplet::CreateCenterWidget(pluginName(), m_page);
+    choosePictogram(this);
 }
 
 void SystemPlugin::render()

@@ -1,13 +1,16 @@
 #include "datedname.h"
 
-#include <QDate>
+#include "localclock.h"
 
 namespace logbase
 {
 
 QString today()
 {
-    return QDate::currentDate().toString(QStringLiteral("yyyyMMdd"));
+    const LocalMoment now = localNow();
+    char text[sizeof "yyyyMMdd"];
+    std::strftime(text, sizeof text, "%Y%m%d", &now.time);
+    return QString::fromLatin1(text);
 }
 
 // Joined, not filled into a template: a base may itself contain "%1".

@@ -1,6 +1,9 @@
 #include "lineheader.h"
 
-#include <QDateTime>
+#include "localclock.h"
+
+#include <cstdio>
+#include <ctime>
 
 namespace logbase
 {
@@ -28,14 +31,21 @@ Style styleOf(Level level)
     return {QStringLiteral("\x1b[32m"), QStringLiteral("[d|%1]")};
 }
 
+QString localTime()
+{
+    const LocalMoment now = localNow();
+    char text[sizeof "MM/dd hh:mm:ss.zzz"];
+    const size_t size = std::strftime(text, sizeof text, "%m/%d %H:%M:%S", &now.time);
+    std::snprintf(text + size, sizeof text - size, ".%03d", now.millisecond);
+    return QString::fromLatin1(text);
+}
+
 } // namespace
 
 LineHeader lineHeader(Level level)
 {
     const Style style = styleOf(level);
-    const QString time
-        = QDateTime::currentDateTime().toString(QStringLiteral("MM/dd hh:mm:ss.zzz"));
-    return {style.colour, style.prefix.arg(time)};
+    return {style.colour, style.prefix.arg(localTime())};
 }
 
 } // namespace logbase

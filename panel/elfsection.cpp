@@ -78,6 +78,9 @@ private:
     quint64 m_size;
 };
 
+/** Far more than the names of all sections of any library. */
+constexpr quint64 maximumStringsSize = 1 << 20;
+
 using Segments = std::vector<Elf64_Phdr>;
 using Sections = std::vector<Elf64_Shdr>;
 
@@ -110,15 +113,24 @@ bool holdsAll(const Reader &reader, const Segments &segments, const Sections &se
         && std::all_of(sections.begin(), sections.end(), sectionFits);
 }
 
-bool bearsName(Reader &reader, const Elf64_Shdr &strings, const Elf64_Shdr &section,
-               const QByteArray &name)
+/** Nothing where the section is larger than maximumSize or can't be read. */
+std::optional<QByteArray> bytesOf(Reader &reader, const Elf64_Shdr &section, quint64 maximumSize)
 {
-    const quint64 length = static_cast<quint64>(name.size()) + 1; // with the closing zero
-    if (section.sh_name > strings.sh_size || length > strings.sh_size - section.sh_name)
-        return false;
-    QByteArray found(static_cast<int>(length), Qt::Uninitialized);
-    return reader.read(strings.sh_offset + section.sh_name, found.data(), length)
-        && found.startsWith(name) && found.back() == '\0';
+    if (section.sh_size > maximumSize)
+        return std::nullopt;
+    QByteArray bytes(static_cast<int>(section.sh_size), Qt::Uninitialized);
+    if (!reader.read(section.sh_offset, bytes.data(), section.sh_size))
+        return std::nullopt;
+    return bytes;
+}
+
+bool bearsName(const QByteArray &strings, const Elf64_Shdr &section, const QByteArray &name)
+{
+    const auto size = static_cast<quint64>(strings.size());
+    const auto length = static_cast<quint64>(name.size()) + 1; // with the closing zero
+    return section.sh_name <= size && length <= size - section.sh_name
+        && std::equal(name.constData(), name.constData() + length,
+                      strings.constData() + section.sh_name);
 }
 
 /** The bytes of the section of that name; nothing where there is none, or none of that size. */
@@ -128,13 +140,13 @@ std::optional<QByteArray> sectionContent(Reader &reader, const Sections &section
 {
     if (stringsIndex >= sections.size())
         return std::nullopt;
+    const auto strings = bytesOf(reader, sections[stringsIndex], maximumStringsSize);
+    if (!strings)
+        return std::nullopt;
     for (const Elf64_Shdr &section : sections) {
-        const bool plain = section.sh_type == SHT_PROGBITS
-            && section.sh_size <= static_cast<quint64>(maximumSize);
-        if (!plain || !bearsName(reader, sections[stringsIndex], section, name))
+        if (section.sh_type != SHT_PROGBITS || !bearsName(*strings, section, name))
             continue;
-        QByteArray content(static_cast<int>(section.sh_size), Qt::Uninitialized);
-        if (reader.read(section.sh_offset, content.data(), section.sh_size))
+        if (auto content = bytesOf(reader, section, static_cast<quint64>(maximumSize)))
             return content;
     }
     return std::nullopt;

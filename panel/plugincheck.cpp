@@ -123,7 +123,7 @@ PluginRecord checkPlugin(const QFileInfo &info)
         return refused(
             record,
             tr("%1 is not a plain file: put a plugin library there, or remove it.").arg(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return refused(record,
                        tr("%1 can't be read (%2): check the file's permissions.")
                            .arg(name, file.errorString()));

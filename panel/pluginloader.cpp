@@ -40,12 +40,6 @@ private:
     locale_t m_before;
 };
 
-QSet<QString> registeredModules()
-{
-    const QList<QString> names = bfactory().makers.keys();
-    return QSet<QString>(names.begin(), names.end());
-}
-
 void tellOperator(const QString &sentence)
 {
     errorLine() << sentence;
@@ -96,6 +90,7 @@ void PluginLoader::loadDirectory(const QString &path)
                 .arg(path));
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
+    newModules(); // they are not of these libraries
     for (const QFileInfo &file : files) {
         m_records.append(load(file));
         if (!m_records.last().sentence.isEmpty())
@@ -131,18 +126,17 @@ PluginRecord PluginLoader::load(const QFileInfo &file)
 void PluginLoader::open(PluginRecord *record)
 {
     const QString path = record->file.absoluteFilePath();
-    const QSet<QString> before = registeredModules();
     m_guard.enterLoading(record->tag.name, path);
     const QString error = openLibrary(path);
     m_guard.leave();
     if (error.isEmpty())
-        takeModules(record, registeredModules() - before);
+        takeModules(record, newModules());
     else
         refuse(record, linkerSentence(record->file.fileName(), error));
 }
 
 /** added: what the library registered while it was opened. */
-void PluginLoader::takeModules(PluginRecord *record, const QSet<QString> &added)
+void PluginLoader::takeModules(PluginRecord *record, const QStringList &added)
 {
     const QString file = record->file.fileName();
     if (added.isEmpty()) {
@@ -155,13 +149,27 @@ void PluginLoader::takeModules(PluginRecord *record, const QSet<QString> &added)
     if (!added.contains(record->tag.name)) {
         refuse(record,
                tr("%1 registers \"%2\" but is tagged \"%3\": use one name for both.")
-                   .arg(file, added.values().join(QStringLiteral("\", \"")), record->tag.name));
+                   .arg(file, added.join(QStringLiteral("\", \"")), record->tag.name));
         return;
     }
-    record->modules = added.values();
-    record->modules.sort();
-    for (const QString &module : qAsConst(record->modules))
+    record->modules = added;
+    for (const QString &module : added)
         m_guard.addModule(module, record->tag.name);
+}
+
+/** What was registered since the last call, sorted. */
+QStringList PluginLoader::newModules()
+{
+    QStringList added;
+    const auto &makers = bfactory().makers;
+    for (auto maker = makers.begin(); maker != makers.end(); ++maker) {
+        if (!m_modules.contains(maker.key()))
+            added.append(maker.key());
+    }
+    for (const QString &name : qAsConst(added))
+        m_modules.insert(name);
+    added.sort();
+    return added;
 }
 
 const QList<PluginRecord> &PluginLoader::records() const

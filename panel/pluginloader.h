@@ -41,11 +41,13 @@ public:
 private:
     PluginRecord load(const QFileInfo &file);
     void open(PluginRecord *record);
-    void takeModules(PluginRecord *record, const QSet<QString> &added);
+    void takeModules(PluginRecord *record, const QStringList &added);
+    QStringList newModules();
     void mirror() const;
 
     StartGuard &m_guard;
     QList<PluginRecord> m_records;
+    QSet<QString> m_modules; ///< all that were registered when newModules() looked last
 };
 
 } // namespace panel

@@ -8,6 +8,7 @@
 #include "kivra/navigationtree_p.h"
 
 #include <QPainter>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace qo
@@ -39,8 +40,8 @@ NavigationBar::NavigationBar(QWidget *parent)
     setFixedWidth(BarWidth);
     connect(&NavigationTree::instance(), &NavigationTree::changed, this, &NavigationBar::rebuild);
     connect(brisa::ThemeManager::instance(), &brisa::ThemeManager::themeChanged, this,
-            &NavigationBar::rebuild);
-    rebuild();
+            &NavigationBar::followTheme);
+    followTheme();
 }
 
 NavigationBar::~NavigationBar() = default;
@@ -66,8 +67,17 @@ void NavigationBar::followCentre()
     markCurrent();
 }
 
+// The entries draw themselves: a sheet for all of them would only make each dearer.
+void NavigationBar::followTheme()
+{
+    m_scroll->verticalScrollBar()->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
+    rebuild();
+}
+
+// The column is shown as a whole: each entry shown by itself would lay out all of them again.
 void NavigationBar::rebuild()
 {
+    m_scroll->widget()->hide();
     clear();
     const auto groups = NavigationTree::instance().groups();
     for (const NavigationGroup &group : groups) {
@@ -81,7 +91,7 @@ void NavigationBar::rebuild()
             m_column->addWidget(item);
         }
     }
-    m_scroll->setStyleSheet(brisa::ThemeManager::instance()->styleSheet());
+    m_scroll->widget()->show();
     markCurrent();
     update();
 }

@@ -33,6 +33,7 @@ protected:
 
 private:
     void followCentre();
+    void followTheme();
     void rebuild();
     void clear();
     void addTitle(const QString &title);

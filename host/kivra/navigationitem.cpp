@@ -3,6 +3,7 @@
 #include "brisa/glyph.h"
 #include "brisa/thememanager.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace qo
@@ -38,6 +39,16 @@ QSize NavigationItem::sizeHint() const
     return {0, metrics::Touch};
 }
 
+// Measuring text is dear, and a tool tip is seldom asked for.
+bool NavigationItem::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const bool elided = fontMetrics().horizontalAdvance(text()) > textBox().width();
+        setToolTip(elided ? text().toHtmlEscaped() : QString());
+    }
+    return QAbstractButton::event(event);
+}
+
 void NavigationItem::paintEvent(QPaintEvent *)
 {
     const ThemeColours &colours = ThemeManager::instance()->colours();
@@ -60,13 +71,6 @@ void NavigationItem::paintEvent(QPaintEvent *)
     const QRect box = textBox();
     painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(text(), Qt::ElideRight, box.width()));
-}
-
-void NavigationItem::resizeEvent(QResizeEvent *event)
-{
-    QAbstractButton::resizeEvent(event);
-    const bool elided = fontMetrics().horizontalAdvance(text()) > textBox().width();
-    setToolTip(elided ? text().toHtmlEscaped() : QString());
 }
 
 QRect NavigationItem::textBox() const

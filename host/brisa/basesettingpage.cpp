@@ -4,9 +4,11 @@
 #include "brisa/thememanager.h"
 #include "brisa/touchscrollarea_p.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <QWidget>
+#include <utility>
 
 namespace brisa
 {
@@ -35,16 +37,15 @@ BaseSettingPage::BaseSettingPage(const QString &name, const QString &pluginName,
     : QObject(module)
     , m_page(new QWidget(parent))
     , m_title(makeTitleBar(pluginName.isEmpty() ? name : pluginName, m_page))
+    , m_content(new QWidget(m_page))
 {
-    // A content that needs more room than the centre area has can be scrolled instead of being cut.
-    auto *const scroll = new TouchScrollArea(TouchScrollArea::By::Flick, m_page);
-    m_content = scroll->widget();
     m_page->setObjectName(name + QLatin1Char('.') + pluginName);
     auto *const column = new QVBoxLayout(m_page);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_title);
-    column->addWidget(scroll, 1);
+    column->addWidget(m_content, 1);
+    m_page->installEventFilter(this);
 }
 
 BaseSettingPage::~BaseSettingPage()
@@ -85,8 +86,37 @@ QWidget *BaseSettingPage::contentWidget() const
 
 void BaseSettingPage::startRender()
 {
+    m_renders = true;
+    if (m_page && m_page->isVisible())
+        applyStyleSheet();
+}
+
+// Most pages stay hidden for most of a session: what makes a page dear waits until it is shown.
+bool BaseSettingPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_page && event->type() == QEvent::Show) {
+        makeScrollable();
+        if (m_renders)
+            applyStyleSheet();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/** A content that needs more room than the centre area has is scrolled instead of being cut. */
+void BaseSettingPage::makeScrollable()
+{
+    if (!m_content || std::exchange(m_scrollable, true))
+        return;
+    auto *const scroll = new TouchScrollArea(TouchScrollArea::By::Flick, m_page);
+    delete m_page->layout()->replaceWidget(m_content, scroll);
+    scroll->setContent(m_content);
+    scroll->show();
+}
+
+void BaseSettingPage::applyStyleSheet()
+{
     const ThemeManager *const theme = ThemeManager::instance();
-    if (!m_page || m_renderedRevision == theme->revision())
+    if (m_renderedRevision == theme->revision())
         return;
     m_renderedRevision = theme->revision();
     m_page->setStyleSheet(theme->styleSheet());

@@ -36,13 +36,21 @@ public:
     QWidget *titleWidget() const;
     QWidget *contentWidget() const;
 
-    /** Applies the host's global style sheet to the page; cheap when nothing changed. */
+    /** Applies the host's global style sheet to the page, to a hidden one as soon as it is shown;
+     *  cheap when nothing changed. */
     void startRender();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void makeScrollable();
+    void applyStyleSheet();
+
     QPointer<QWidget> m_page;
     QPointer<QWidget> m_title;
     QPointer<QWidget> m_content;
+    bool m_renders = false; ///< startRender() was called
+    bool m_scrollable = false;
     int m_renderedRevision = 0;
 };
 

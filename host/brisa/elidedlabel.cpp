@@ -29,7 +29,6 @@ void ElidedLabel::setText(const QString &text)
         return;
     m_text = text;
     updateGeometry();
-    refreshToolTip();
     update();
 }
 
@@ -54,6 +53,14 @@ QSize ElidedLabel::minimumSizeHint() const
     return {qMin(SmallestWidth, sizeHint().width()), fontMetrics().height()};
 }
 
+// Measuring text is dear, and a tool tip is seldom asked for.
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(isElided() ? m_text.toHtmlEscaped() : QString());
+    return QFrame::event(event);
+}
+
 void ElidedLabel::paintEvent(QPaintEvent *event)
 {
     QFrame::paintEvent(event);
@@ -64,24 +71,11 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
                      fontMetrics().elidedText(m_text, Qt::ElideRight, box.width()));
 }
 
-void ElidedLabel::resizeEvent(QResizeEvent *event)
-{
-    QFrame::resizeEvent(event);
-    refreshToolTip();
-}
-
 void ElidedLabel::changeEvent(QEvent *event)
 {
     QFrame::changeEvent(event);
-    if (event->type() != QEvent::FontChange)
-        return;
-    updateGeometry();
-    refreshToolTip();
-}
-
-void ElidedLabel::refreshToolTip()
-{
-    setToolTip(isElided() ? m_text.toHtmlEscaped() : QString());
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
 }
 
 } // namespace brisa

@@ -7,20 +7,33 @@ namespace brisa
 
 TouchScrollArea::TouchScrollArea(By by, QWidget *parent)
     : QScrollArea(parent)
+    , m_by(by)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    setWidget(new QWidget);
-    widget()->setAutoFillBackground(false);
+    setContent(new QWidget);
     viewport()->setAutoFillBackground(false);
-    if (by == By::Flick)
-        QScroller::grabGesture(viewport(), QScroller::TouchGesture);
+}
+
+void TouchScrollArea::setContent(QWidget *content)
+{
+    setWidget(content);
+    content->setAutoFillBackground(false);
 }
 
 // Without this the application would go on asking the recognizer of an area that has gone.
 TouchScrollArea::~TouchScrollArea()
 {
-    QScroller::ungrabGesture(viewport());
+    if (QScroller::hasScroller(viewport()))
+        QScroller::ungrabGesture(viewport());
+}
+
+// Not earlier: most pages are not shown in a session, and none before it.
+void TouchScrollArea::showEvent(QShowEvent *event)
+{
+    QScrollArea::showEvent(event);
+    if (m_by == By::Flick && !QScroller::hasScroller(viewport()))
+        QScroller::grabGesture(viewport(), QScroller::TouchGesture);
 }
 
 } // namespace brisa

@@ -17,6 +17,15 @@ public:
 
     TouchScrollArea(By by, QWidget *parent);
     ~TouchScrollArea() override;
+
+    /** Takes the place of the widget that is there. */
+    void setContent(QWidget *content);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    By m_by;
 };
 
 } // namespace brisa

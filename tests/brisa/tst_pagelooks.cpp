@@ -6,6 +6,7 @@
 #include <brisa/thememanager.h>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -32,6 +33,13 @@ double contrast(const QColor &a, const QColor &b)
 }
 
 } // namespace
+
+/** As the pointer does when it rests on the widget. */
+void askForToolTip(QWidget *widget)
+{
+    QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
+    QApplication::sendEvent(widget, &event);
+}
 
 class TestPageLooks : public QObject
 {
@@ -121,9 +129,11 @@ private Q_SLOTS:
         label.resize(200, 30);
         label.show();
         QVERIFY(label.isElided());
+        askForToolTip(&label);
         QVERIFY(label.toolTip().startsWith("&lt;b&gt;long"));
         label.setText("short");
         QVERIFY(!label.isElided());
+        askForToolTip(&label);
         QCOMPARE(label.toolTip(), QString());
     }
 

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QtTest>
 #include <cmath>
@@ -88,13 +89,33 @@ private Q_SLOTS:
         BaseSettingPage page("zeplet", "demo", nullptr, nullptr);
         QCOMPARE(page.wgt()->styleSheet(), QString());
         page.startRender();
+        QCOMPARE(page.wgt()->styleSheet(), QString()); // hidden
         const QString light = ThemeManager::instance()->styleSheet();
+        page.wgt()->show();
         QCOMPARE(page.wgt()->styleSheet(), light);
         ThemeManager::instance()->setTheme(Theme::Dark);
         QCOMPARE(page.wgt()->styleSheet(), light);
         page.startRender();
         QCOMPARE(page.wgt()->styleSheet(), ThemeManager::instance()->styleSheet());
         QVERIFY(page.wgt()->styleSheet() != light);
+    }
+
+    void pageScrollsWhatIsLargerThanItself()
+    {
+        QWidget parent;
+        BaseSettingPage page("zeplet", "demo", &parent, nullptr);
+        QWidget *const content = page.contentWidget();
+        content->setMinimumSize(300, 3000);
+        page.wgt()->resize(400, 400);
+        for (int times = 0; times < 2; ++times) {
+            parent.show();
+            QCOMPARE(page.contentWidget(), content);
+            QVERIFY(content->isVisible());
+            QCOMPARE(content->height(), 3000);
+            QCOMPARE(page.wgt()->findChildren<QScrollArea *>().size(), 1);
+            QCOMPARE(page.wgt()->height(), 400);
+            parent.hide();
+        }
     }
 
     void pageOwnsItsWidgetUnlessItsParentDeletedIt()

@@ -129,11 +129,15 @@ private Q_SLOTS:
         unstyled.plugin->setDefaultGlobalSheet(false);
         styled->render();
         unstyled->render();
+        instantiatedCenterWidget()->show();
         const auto sheet = [](const MadeModule &made) {
-            return made->findChild<PluginSettingPage *>()->wgt()->styleSheet();
+            QWidget *const page = made->findChild<PluginSettingPage *>()->wgt();
+            instantiatedCenterWidget()->setCurrentWidget(page);
+            return page->styleSheet();
         };
         QVERIFY(!sheet(styled).isEmpty());
         QVERIFY(sheet(unstyled).isEmpty());
+        instantiatedCenterWidget()->hide();
     }
 
     void widgetsGoWhereTheyBelong()

@@ -17,10 +17,12 @@ namespace
 constexpr std::size_t UuidBytes = 16;
 constexpr std::size_t UuidCharacters = 36;
 
-// One system call for 64 ids: a call for each of them would cost more than all the rest of an
+// One system call for 256 ids: a call for each of them would cost more than all the rest of an
 // event.
+constexpr std::size_t PoolBytes = 256 * UuidBytes;
+
 struct RandomPool {
-    alignas(8) std::array<unsigned char, 64 * UuidBytes> bytes;
+    alignas(8) std::array<unsigned char, PoolBytes> bytes;
     std::size_t used = sizeof(bytes);
 };
 
@@ -36,7 +38,7 @@ void fillFromKernel(unsigned char *bytes, std::size_t size)
     if (filled == size)
         return;
     // A kernel without the call (a seccomp filter, say): Qt knows the other ways.
-    std::array<quint32, 64 * UuidBytes / sizeof(quint32)> words;
+    std::array<quint32, PoolBytes / sizeof(quint32)> words;
     QRandomGenerator::system()->generate(words.begin(), words.end());
     std::memcpy(bytes, words.data(), size);
 }
@@ -53,11 +55,24 @@ const unsigned char *drawBytes()
     return drawn;
 }
 
+// The two UTF-16 digits of each byte.
+using HexPair = std::array<char16_t, 2>;
+
+constexpr std::array<HexPair, 256> makeHexPairs()
+{
+    constexpr char16_t digits[] = u"0123456789abcdef";
+    std::array<HexPair, 256> pairs {};
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = {digits[i >> 4], digits[i & 0x0F]};
+    return pairs;
+}
+
+constexpr std::array<HexPair, 256> hexPairs = makeHexPairs();
+
 } // namespace
 
 QString randomUuid()
 {
-    static constexpr char digits[] = "0123456789abcdef";
     unsigned char bytes[UuidBytes];
     std::memcpy(bytes, drawBytes(), UuidBytes);
     bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0F) | 0x40); // version 4
@@ -68,8 +83,8 @@ QString randomUuid()
     for (std::size_t i = 0; i < UuidBytes; ++i) {
         if (i == 4 || i == 6 || i == 8 || i == 10)
             *out++ = QLatin1Char('-');
-        *out++ = QLatin1Char(digits[bytes[i] >> 4]);
-        *out++ = QLatin1Char(digits[bytes[i] & 0x0F]);
+        *out++ = hexPairs[bytes[i]][0];
+        *out++ = hexPairs[bytes[i]][1];
     }
     return text;
 }

@@ -1,18 +1,20 @@
 #include "storedsubscription_p.h"
 
+#include <QHash>
+
 namespace zeplet
 {
 
-const QDateTime &InvocationClock::startOfTime()
+uint StoredSubscription::hashOf(const QString &id)
 {
-    static const QDateTime start = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
-    return start;
+    static const auto seed = static_cast<uint>(qGlobalQHashSeed());
+    return qHash(id, seed);
 }
 
 StoredSubscription::StoredSubscription(const ZepletEventSubscription &subscription)
     : ZepletEventSubscription(subscription)
     , storedId(id)
-    , storedPlugin(pluginName)
+    , storedIdHash(hashOf(storedId))
     , storedType(eventType)
     , storedOneShot(isOneShot())
 {
@@ -22,7 +24,7 @@ StoredSubscription::StoredSubscription(const QString &plugin, ZepletEventType ty
                                        QSharedPointer<ZepletEventHandler> eventHandler)
     : ZepletEventSubscription(QString(), plugin, type, std::move(eventHandler))
     , storedId(id)
-    , storedPlugin(plugin)
+    , storedIdHash(hashOf(storedId))
     , storedType(type)
     , storedOneShot(isOneShot())
 {

@@ -3,11 +3,13 @@
 #include <QMetaObject>
 #include <QSharedData>
 #include <QSharedPointer>
+#include <QVarLengthArray>
 
 #include <atomic>
 #include <utility>
 #include <vector>
 
+#include "utcclock_p.h"
 #include "zepleteventsubscription.h"
 
 namespace zeplet
@@ -18,7 +20,7 @@ using StoredPointer = QSharedPointer<StoredSubscription>;
 using StoredPointers = std::vector<StoredPointer>;
 
 /// A list whose members know their place in it, so that removing one takes constant time.
-template <typename Pointer>
+template <typename Pointer, typename Container = std::vector<Pointer>>
 class PlacedList
 {
 public:
@@ -27,25 +29,30 @@ public:
 
     void append(const Pointer &record, Place place)
     {
-        (*record).*place = static_cast<int>(m_records.size());
+        (*record).*place = size();
         m_records.push_back(record);
     }
 
-    /// The last record moves into the gap.
-    void remove(StoredSubscription &record, Place place)
+    /// Returns the list's pointer to the record. The last record moves into the gap.
+    Pointer remove(StoredSubscription &record, Place place)
     {
-        const auto index = static_cast<std::size_t>(std::exchange(record.*place, -1));
-        if (index + 1 < m_records.size()) {
-            std::swap(m_records[index], m_records.back());
-            (*m_records[index]).*place = static_cast<int>(index);
+        const int index = std::exchange(record.*place, -1);
+        Pointer removed = std::move(at(index));
+        if (index + 1 < size()) {
+            at(index) = std::move(m_records.back());
+            (*at(index)).*place = index;
         }
         m_records.pop_back();
+        return removed;
     }
 
-    const std::vector<Pointer> &records() const { return m_records; }
+    int size() const { return static_cast<int>(m_records.size()); }
+    const Container &records() const { return m_records; }
 
 private:
-    std::vector<Pointer> m_records;
+    Pointer &at(int index) { return m_records[static_cast<typename Container::size_type>(index)]; }
+
+    Container m_records;
 };
 
 /// The subscribers of one type, shared between the index and the dispatches that are running.
@@ -66,41 +73,42 @@ inline PlacedList<StoredPointer> &writable(SubscribersPointer &subscribers)
     return subscribers->list;
 }
 
+/// The subscriptions of one plugin.
+struct PluginSubscriptions : QSharedData {
+    explicit PluginSubscriptions(const QString &pluginName)
+        : name(pluginName)
+    {
+    }
+
+    const QString name;
+    PlacedList<StoredSubscription *> list;
+};
+using PluginPointer = QExplicitlySharedDataPointer<PluginSubscriptions>;
+
 /// What is known of one context object, shared by all subscriptions that were ever bound to it:
 /// also one that was removed during a dispatch, and is still due in it, must not run once the
 /// object is gone.
-struct SubscriptionContext {
+struct SubscriptionContext : QSharedData {
+    // Most objects have one or two, and come by the thousand.
+    using Few = QVarLengthArray<StoredSubscription *, 2>;
+
+    explicit SubscriptionContext(QObject *context)
+        : object(context)
+    {
+    }
+
+    QObject *const object;
     std::atomic<bool> destroyed {false};
-    PlacedList<StoredSubscription *> subscriptions;
+    PlacedList<StoredSubscription *, Few> subscriptions;
     /// To the object's destroyed().
     QMetaObject::Connection connection;
 };
-
-/// The time of the calls of one dispatch. The clock is read for every call; the QDateTime, which
-/// costs as much again, is made once for each millisecond.
-class InvocationClock
-{
-public:
-    const QDateTime &now()
-    {
-        const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
-        if (milliseconds != m_milliseconds) {
-            m_milliseconds = milliseconds;
-            m_time.setMSecsSinceEpoch(milliseconds);
-        }
-        return m_time;
-    }
-
-private:
-    // Copied, because a new one in UTC costs several times as much.
-    static const QDateTime &startOfTime();
-
-    qint64 m_milliseconds = -1;
-    QDateTime m_time = startOfTime();
-};
+using ContextPointer = QExplicitlySharedDataPointer<SubscriptionContext>;
 
 /// A subscription in the manager, with its places in all containers.
 struct StoredSubscription final : ZepletEventSubscription {
+    static uint hashOf(const QString &id);
+
     explicit StoredSubscription(const ZepletEventSubscription &subscription);
     StoredSubscription(const QString &plugin, ZepletEventType type,
                        QSharedPointer<ZepletEventHandler> eventHandler);
@@ -122,15 +130,17 @@ struct StoredSubscription final : ZepletEventSubscription {
     // The keys under which it is stored. The public members could be changed by who holds the
     // record.
     const QString storedId;
-    const QString storedPlugin;
+    const uint storedIdHash;
     const ZepletEventType storedType;
     const bool storedOneShot;
+    /// Set by the manager that stores it.
+    PluginPointer storedPlugin;
 
     int typePlace = -1;
     int pluginPlace = -1;
     int contextPlace = -1;
     /// Null without a context object.
-    QSharedPointer<SubscriptionContext> context;
+    ContextPointer context;
 };
 
 } // namespace zeplet

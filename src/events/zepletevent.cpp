@@ -1,6 +1,7 @@
 #include "zepletevent.h"
 
 #include "randomuuid_p.h"
+#include "utcclock_p.h"
 
 #include <atomic>
 
@@ -23,7 +24,7 @@ ZepletEvent::ZepletEvent(ZepletEventType eventType, const QString &eventSource,
     : type(eventType)
     , source(eventSource)
     , data(eventData)
-    , timestamp(QDateTime::currentDateTimeUtc())
+    , timestamp(utcNow())
     , seq(generateSequenceId())
     , id(randomUuid())
 {

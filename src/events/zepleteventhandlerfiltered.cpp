@@ -6,11 +6,13 @@ namespace zeplet
 {
 
 ZepletEventHandlerFiltered::ZepletEventHandlerFiltered(ZepletEventType type, Filter filter,
-                                                       Callback callback, const QString &name)
+                                                       Callback callback, const QString &name,
+                                                       QLatin1String suffix)
     : m_type(type)
     , m_filter(std::move(filter))
     , m_callback(std::move(callback))
     , m_name(name)
+    , m_suffix(suffix)
 {
 }
 
@@ -31,7 +33,7 @@ ZepletEventType ZepletEventHandlerFiltered::eventType() const
 
 QString ZepletEventHandlerFiltered::handlerName() const
 {
-    return m_name;
+    return m_name + m_suffix;
 }
 
 } // namespace zeplet

@@ -10,8 +10,9 @@ namespace zeplet
 class ZEPLET_EXPORT ZepletEventHandlerFiltered : public ZepletEventHandler
 {
 public:
+    /// The name is `name` and `suffix`, put together when it is asked for.
     ZepletEventHandlerFiltered(ZepletEventType type, Filter filter, Callback callback,
-                               const QString &name);
+                               const QString &name, QLatin1String suffix = QLatin1String());
     ~ZepletEventHandlerFiltered() override;
 
     void handleEvent(const ZepletEvent &event) override;
@@ -23,6 +24,7 @@ private:
     const Filter m_filter;
     const Callback m_callback;
     const QString m_name;
+    const QLatin1String m_suffix;
 };
 
 } // namespace zeplet

@@ -6,10 +6,11 @@ namespace zeplet
 {
 
 ZepletEventHandlerFunc::ZepletEventHandlerFunc(ZepletEventType type, Callback callback,
-                                               const QString &name)
+                                               const QString &name, QLatin1String suffix)
     : m_type(type)
     , m_callback(std::move(callback))
     , m_name(name)
+    , m_suffix(suffix)
 {
 }
 
@@ -28,7 +29,7 @@ ZepletEventType ZepletEventHandlerFunc::eventType() const
 
 QString ZepletEventHandlerFunc::handlerName() const
 {
-    return m_name;
+    return m_name + m_suffix;
 }
 
 } // namespace zeplet

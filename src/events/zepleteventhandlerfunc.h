@@ -9,7 +9,9 @@ namespace zeplet
 class ZEPLET_EXPORT ZepletEventHandlerFunc : public ZepletEventHandler
 {
 public:
-    ZepletEventHandlerFunc(ZepletEventType type, Callback callback, const QString &name);
+    /// The name is `name` and `suffix`, put together when it is asked for.
+    ZepletEventHandlerFunc(ZepletEventType type, Callback callback, const QString &name,
+                           QLatin1String suffix = QLatin1String());
     ~ZepletEventHandlerFunc() override;
 
     void handleEvent(const ZepletEvent &event) override;
@@ -20,6 +22,7 @@ private:
     const ZepletEventType m_type;
     const Callback m_callback;
     const QString m_name;
+    const QLatin1String m_suffix;
 };
 
 } // namespace zeplet

@@ -6,8 +6,8 @@ namespace zeplet
 {
 
 ZepletEventHandlerOneShot::ZepletEventHandlerOneShot(ZepletEventType type, Callback callback,
-                                                     const QString &name)
-    : ZepletEventHandlerFunc(type, std::move(callback), name)
+                                                     const QString &name, QLatin1String suffix)
+    : ZepletEventHandlerFunc(type, std::move(callback), name, suffix)
 {
 }
 

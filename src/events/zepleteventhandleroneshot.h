@@ -12,7 +12,9 @@ namespace zeplet
 class ZEPLET_EXPORT ZepletEventHandlerOneShot : public ZepletEventHandlerFunc
 {
 public:
-    ZepletEventHandlerOneShot(ZepletEventType type, Callback callback, const QString &name);
+    /// The name is `name` and `suffix`, put together when it is asked for.
+    ZepletEventHandlerOneShot(ZepletEventType type, Callback callback, const QString &name,
+                              QLatin1String suffix = QLatin1String());
     ~ZepletEventHandlerOneShot() override;
 
     void handleEvent(const ZepletEvent &event) override;

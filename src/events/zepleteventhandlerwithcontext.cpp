@@ -6,11 +6,13 @@ namespace zeplet
 {
 
 ZepletEventHandlerWithContext::ZepletEventHandlerWithContext(ZepletEventType type, QObject *context,
-                                                             Callback callback, const QString &name)
+                                                             Callback callback, const QString &name,
+                                                             QLatin1String suffix)
     : m_type(type)
     , m_context(context)
     , m_callback(std::move(callback))
     , m_name(name)
+    , m_suffix(suffix)
 {
 }
 
@@ -29,7 +31,7 @@ ZepletEventType ZepletEventHandlerWithContext::eventType() const
 
 QString ZepletEventHandlerWithContext::handlerName() const
 {
-    return m_name;
+    return m_name + m_suffix;
 }
 
 bool ZepletEventHandlerWithContext::isValid() const

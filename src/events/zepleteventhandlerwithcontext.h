@@ -13,8 +13,9 @@ namespace zeplet
 class ZEPLET_EXPORT ZepletEventHandlerWithContext : public ZepletEventHandler
 {
 public:
+    /// The name is `name` and `suffix`, put together when it is asked for.
     ZepletEventHandlerWithContext(ZepletEventType type, QObject *context, Callback callback,
-                                  const QString &name);
+                                  const QString &name, QLatin1String suffix = QLatin1String());
     ~ZepletEventHandlerWithContext() override;
 
     void handleEvent(const ZepletEvent &event) override;
@@ -28,6 +29,7 @@ private:
     QObject *const m_context;
     const Callback m_callback;
     const QString m_name;
+    const QLatin1String m_suffix;
 };
 
 } // namespace zeplet

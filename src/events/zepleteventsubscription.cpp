@@ -1,6 +1,7 @@
 #include "zepleteventsubscription.h"
 
 #include "randomuuid_p.h"
+#include "utcclock_p.h"
 
 #include <utility>
 
@@ -19,7 +20,7 @@ ZepletEventSubscription::ZepletEventSubscription(const QString &subscriptionId,
     , pluginName(plugin)
     , eventType(type)
     , handler(std::move(eventHandler))
-    , createdTime(QDateTime::currentDateTimeUtc())
+    , createdTime(utcNow())
     , lastInvokedTime(createdTime)
 {
 }
@@ -46,7 +47,7 @@ QString ZepletEventSubscription::handlerName() const
 
 void ZepletEventSubscription::touch()
 {
-    lastInvokedTime = QDateTime::currentDateTimeUtc();
+    lastInvokedTime = utcNow();
 }
 
 void ZepletEventSubscription::incrementInvokeCount()

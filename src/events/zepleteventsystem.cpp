@@ -30,34 +30,49 @@ Private::ZepletEventSystemPrivate(ZepletEventSystem *system)
 SubscribersPointer Private::snapshot(ZepletEventType type) const
 {
     QMutexLocker lock(&mutex);
-    return index().snapshot(type);
+    return index().snapshotUnlocked(type);
 }
 
-bool Private::isWatched(QObject *object) const
+ContextPointer Private::findContext(QObject *object) const
 {
-    QMutexLocker lock(&mutex);
-    const auto context = contexts.constFind(object);
-    return context != contexts.constEnd() && (*context)->connection;
+    return contexts.find(qHash(object), [object](const SubscriptionContext &context) {
+        return context.object == object;
+    });
 }
 
-void Private::setWatched(QObject *object, const QMetaObject::Connection &connection)
+ContextPointer Private::contextOf(QObject *object)
 {
-    QMutexLocker lock(&mutex);
-    contextOf(object)->connection = connection;
-}
-
-void Private::bind(QObject *object, StoredSubscription &record)
-{
-    record.context = contextOf(object);
-    record.context->subscriptions.append(&record, &StoredSubscription::contextPlace);
-}
-
-const QSharedPointer<SubscriptionContext> &Private::contextOf(QObject *object)
-{
-    auto &context = contexts[object];
-    if (!context)
-        context = QSharedPointer<SubscriptionContext>::create();
+    ContextPointer context = findContext(object);
+    if (!context) {
+        context = new SubscriptionContext(object);
+        contexts.insert(qHash(object), context);
+    }
     return context;
+}
+
+// Each time, because the object may have cut all its connections since its last subscription.
+// Directly, so that no call starts after the object is gone, whatever thread it dies on. Without
+// the lock, because connecting calls the object's connectNotify().
+ContextPointer Private::watch(QObject *object, QMutexLocker &lock)
+{
+    ContextPointer context = contextOf(object);
+    if (context->connection)
+        return context;
+    lock.unlock();
+    const auto connection = QObject::connect(
+        object, &QObject::destroyed, q, &ZepletEventSystem::onContextDestroyed,
+        static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::UniqueConnection));
+    lock.relock();
+    context = contextOf(object);
+    if (connection)
+        context->connection = connection;
+    return context;
+}
+
+void Private::bind(const ContextPointer &context, StoredSubscription &record)
+{
+    record.context = context;
+    context->subscriptions.append(&record, &StoredSubscription::contextPlace);
 }
 
 void Private::unbind(StoredSubscription &record)
@@ -72,7 +87,7 @@ StoredPointer Private::doUnsubscribe(const QString &id)
     if (!record)
         return record;
     unbind(*record);
-    emit q->subscriptionRemoved(record->storedId, record->storedType, record->storedPlugin);
+    emit q->subscriptionRemoved(record->storedId, record->storedType, record->storedPlugin->name);
     return record;
 }
 
@@ -96,9 +111,10 @@ StoredPointers Private::takeInvalid()
 StoredPointers Private::takeContext(QObject *object)
 {
     QMutexLocker lock(&mutex);
-    const auto context = contexts.take(object);
+    const ContextPointer context = findContext(object);
     if (!context)
         return {};
+    contexts.remove(qHash(object), context);
 
     // Subscriptions that were removed before, and are still due in a running dispatch, see it as
     // well.
@@ -107,7 +123,7 @@ StoredPointers Private::takeContext(QObject *object)
     while (!context->subscriptions.records().empty()) {
         StoredSubscription *record = context->subscriptions.records().back();
         unbind(*record);
-        taken.push_back(index().take(record->storedId));
+        taken.push_back(index().take(*record));
     }
     return taken;
 }
@@ -165,7 +181,7 @@ QString ZepletEventSystem::subscribe(ZepletEventType type, Callback callback,
                                      const QString &pluginName, QObject *context)
 {
     const auto handler = QSharedPointer<ZepletEventHandlerWithContext>::create(
-        type, context, std::move(callback), pluginName + QLatin1String("_handler"));
+        type, context, std::move(callback), pluginName, QLatin1String("_handler"));
     return doSubscribe(type, handler, pluginName, context);
 }
 
@@ -173,7 +189,7 @@ QString ZepletEventSystem::subscribeFiltered(ZepletEventType type, Filter filter
                                              const QString &pluginName, QObject *context)
 {
     const auto handler = QSharedPointer<ZepletEventHandlerFiltered>::create(
-        type, std::move(filter), std::move(callback), pluginName + QLatin1String("_filter"));
+        type, std::move(filter), std::move(callback), pluginName, QLatin1String("_filter"));
     return doSubscribe(type, handler, pluginName, context);
 }
 
@@ -181,7 +197,7 @@ QString ZepletEventSystem::subscribeOnce(ZepletEventType type, Callback callback
                                          const QString &pluginName, QObject *context)
 {
     const auto handler = QSharedPointer<ZepletEventHandlerOneShot>::create(
-        type, std::move(callback), pluginName + QLatin1String("_oneshot"));
+        type, std::move(callback), pluginName, QLatin1String("_oneshot"));
     return doSubscribe(type, handler, pluginName, context);
 }
 
@@ -189,27 +205,15 @@ QString ZepletEventSystem::doSubscribe(ZepletEventType type,
                                        QSharedPointer<ZepletEventHandler> handler,
                                        const QString &pluginName, QObject *context)
 {
-    if (context && !d->isWatched(context))
-        watchContext(context);
     const auto record = StoredPointer::create(pluginName, type, std::move(handler));
 
     QMutexLocker lock(&d->mutex);
+    const ContextPointer watched = context ? d->watch(context, lock) : ContextPointer();
     d->index().insert(record);
-    if (context)
-        d->bind(context, *record);
+    if (watched)
+        d->bind(watched, *record);
     emit subscriptionAdded(record->storedId, type, pluginName);
     return record->storedId;
-}
-
-// Directly, so that no call starts after the object is gone, whatever thread it dies on. Before
-// locking, because connecting calls the object's connectNotify().
-void ZepletEventSystem::watchContext(QObject *context)
-{
-    const auto connection
-        = connect(context, &QObject::destroyed, this, &ZepletEventSystem::onContextDestroyed,
-                  static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::UniqueConnection));
-    if (connection)
-        d->setWatched(context, connection);
 }
 
 void ZepletEventSystem::onContextDestroyed(QObject *object)
@@ -299,7 +303,7 @@ int ZepletEventSystem::unsubscribeByTypeAndPlugin(const QString &pluginName, Zep
     QMutexLocker lock(&d->mutex);
     const auto ofType = d->index().subscribers(type);
     for (const StoredPointer &record : ofType) {
-        if (record->storedPlugin == pluginName)
+        if (record->storedPlugin->name == pluginName)
             records.push_back(record);
     }
     return d->doUnsubscribe(records);

@@ -120,7 +120,6 @@ private:
 
     QString doSubscribe(ZepletEventType type, QSharedPointer<ZepletEventHandler> handler,
                         const QString &pluginName, QObject *context);
-    void watchContext(QObject *context);
     void dispatchEvent(const ZepletEvent &event);
     void removeFired(const QStringList &ids);
     void onContextDestroyed(QObject *object);

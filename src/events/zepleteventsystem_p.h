@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QHash>
 #include <QMap>
 #include <QMutex>
 
 #include <atomic>
 
+#include "recordtable_p.h"
 #include "shardedcounter_p.h"
 #include "storedsubscription_p.h"
 #include "zepleteventsystem.h"
@@ -26,13 +26,11 @@ public:
 
     /// The subscribers of that moment; null if there are none. Locks `mutex`.
     SubscribersPointer snapshot(ZepletEventType type) const;
-    /// Whether the object's destroyed() is connected: it may have cut all its connections since the
-    /// last subscription. Locks `mutex`.
-    bool isWatched(QObject *object) const;
-    /// Locks `mutex`.
-    void setWatched(QObject *object, const QMetaObject::Connection &connection);
+    /// The entry of a context object, whose destroyed() is connected from then on. Needs `mutex`
+    /// locked, and unlocks it meanwhile to connect.
+    ContextPointer watch(QObject *object, QMutexLocker &lock);
     /// Adds the record to those of its context object. Needs `mutex` locked.
-    void bind(QObject *object, StoredSubscription &record);
+    static void bind(const ContextPointer &context, StoredSubscription &record);
     /// Removes one subscription and tells of it; null for an unknown id. Needs `mutex` locked.
     StoredPointer doUnsubscribe(const QString &id);
     /// Removes those of the subscriptions that are still there; returns how many. Needs `mutex`
@@ -50,12 +48,13 @@ public:
     std::atomic<qint32> nextCustomType {UserEventStart};
     QMap<int, QString> customTypeNames;
     /// An entry stays until its object dies, also without subscriptions.
-    QHash<QObject *, QSharedPointer<SubscriptionContext>> contexts;
+    RecordTable<ContextPointer> contexts;
     ShardedCounter totalEventsPublished;
     ShardedCounter totalEventsHandled;
 
 private:
-    const QSharedPointer<SubscriptionContext> &contextOf(QObject *object);
+    ContextPointer findContext(QObject *object) const;
+    ContextPointer contextOf(QObject *object);
     static void unbind(StoredSubscription &record);
 
     ZepletEventSystem *const q;

@@ -24,19 +24,26 @@ QList<QSharedPointer<ZepletEventSubscription>> toPublicList(const StoredPointers
 StoredPointer Private::insert(const StoredPointer &record)
 {
     QMutexLocker lock(&mutex);
-    StoredPointer &stored = byId[record->storedId];
-    StoredPointer replaced = std::exchange(stored, record);
-    if (replaced)
-        unlink(*replaced);
+    const uint hash = record->storedIdHash;
+    StoredPointer replaced = takeLocked(findLocked(record->storedId, hash));
+    byId.insert(hash, record.data());
     writable(byType[record->storedType]).append(record, &StoredSubscription::typePlace);
-    byPlugin[record->storedPlugin].append(record.data(), &StoredSubscription::pluginPlace);
+    record->storedPlugin = pluginLocked(record->pluginName);
+    record->storedPlugin->list.append(record.data(), &StoredSubscription::pluginPlace);
     return replaced;
 }
 
 StoredPointer Private::take(const QString &id)
 {
+    const uint hash = StoredSubscription::hashOf(id);
     QMutexLocker lock(&mutex);
-    return takeLocked(id);
+    return takeLocked(findLocked(id, hash));
+}
+
+StoredPointer Private::take(StoredSubscription &record)
+{
+    QMutexLocker lock(&mutex);
+    return takeLocked(&record);
 }
 
 StoredPointers Private::takeByType(ZepletEventType type)
@@ -55,17 +62,18 @@ StoredPointers Private::takeInvalid()
 {
     QMutexLocker lock(&mutex);
     StoredPointers invalid;
-    for (const StoredPointer &record : qAsConst(byId)) {
+    byId.forEach([&](const StoredSubscription *record) {
         if (!record->isValid())
-            invalid.push_back(record);
-    }
+            invalid.push_back(ownerOf(*record));
+    });
     return takeLocked(std::move(invalid));
 }
 
 StoredPointers Private::takeAll()
 {
     QMutexLocker lock(&mutex);
-    StoredPointers all(byId.cbegin(), byId.cend());
+    StoredPointers all;
+    byId.forEach([&](const StoredSubscription *record) { all.push_back(ownerOf(*record)); });
     byType.clear();
     byPlugin.clear();
     byId.clear();
@@ -75,13 +83,8 @@ StoredPointers Private::takeAll()
 StoredPointer Private::find(const QString &id) const
 {
     QMutexLocker lock(&mutex);
-    return byId.value(id);
-}
-
-SubscribersPointer Private::snapshot(ZepletEventType type) const
-{
-    QMutexLocker lock(&mutex);
-    return byType.value(type);
+    const StoredSubscription *record = findLocked(id, StoredSubscription::hashOf(id));
+    return record ? ownerOf(*record) : StoredPointer();
 }
 
 StoredPointers Private::subscribers(ZepletEventType type) const
@@ -96,18 +99,48 @@ StoredPointers Private::subscriptionsOf(const QString &pluginName) const
     return subscriptionsOfLocked(pluginName);
 }
 
-StoredPointer Private::takeLocked(const QString &id)
+StoredSubscription *Private::findLocked(const QString &id, uint hash) const
 {
-    StoredPointer record = byId.take(id);
-    if (record)
-        unlink(*record);
-    return record;
+    return byId.find(hash,
+                     [&id](const StoredSubscription &record) { return record.storedId == id; });
+}
+
+const StoredPointer &Private::ownerOf(const StoredSubscription &record) const
+{
+    const auto ofType = byType.constFind(record.storedType);
+    return (*ofType)->list.records()[static_cast<std::size_t>(record.typePlace)];
+}
+
+PluginPointer &Private::pluginLocked(const QString &name)
+{
+    PluginPointer &plugin = byPlugin[name];
+    if (!plugin)
+        plugin = new PluginSubscriptions(name);
+    return plugin;
+}
+
+StoredPointer Private::takeLocked(StoredSubscription *record)
+{
+    if (!record)
+        return {};
+    byId.remove(record->storedIdHash, record);
+
+    PluginSubscriptions &ofPlugin = *record->storedPlugin;
+    ofPlugin.list.remove(*record, &StoredSubscription::pluginPlace);
+    if (ofPlugin.list.records().empty())
+        byPlugin.remove(ofPlugin.name);
+
+    const auto ofType = byType.find(record->storedType);
+    StoredPointer taken = writable(*ofType).remove(*record, &StoredSubscription::typePlace);
+    if ((*ofType)->list.records().empty())
+        byType.erase(ofType);
+    return taken;
 }
 
 StoredPointers Private::takeLocked(StoredPointers records)
 {
     for (const StoredPointer &record : records)
-        takeLocked(record->storedId);
+        takeLocked(record.data());
     return records;
 }
 
@@ -120,23 +153,11 @@ StoredPointers Private::subscribersLocked(ZepletEventType type) const
 StoredPointers Private::subscriptionsOfLocked(const QString &pluginName) const
 {
     StoredPointers found;
-    const auto ofPlugin = byPlugin.value(pluginName);
-    for (const StoredSubscription *record : ofPlugin.records())
-        found.push_back(byId.value(record->storedId));
+    if (const PluginPointer ofPlugin = byPlugin.value(pluginName)) {
+        for (const StoredSubscription *record : ofPlugin->list.records())
+            found.push_back(ownerOf(*record));
+    }
     return found;
-}
-
-void Private::unlink(StoredSubscription &record)
-{
-    const auto ofType = byType.find(record.storedType);
-    writable(*ofType).remove(record, &StoredSubscription::typePlace);
-    if ((*ofType)->list.records().empty())
-        byType.erase(ofType);
-
-    const auto ofPlugin = byPlugin.find(record.storedPlugin);
-    ofPlugin->remove(record, &StoredSubscription::pluginPlace);
-    if (ofPlugin->records().empty())
-        byPlugin.erase(ofPlugin);
 }
 
 ZepletSubscriptionManager::ZepletSubscriptionManager()
@@ -185,22 +206,22 @@ ZepletSubscriptionManager::getSubscription(const QString &id) const
 
 bool ZepletSubscriptionManager::hasSubscription(const QString &id) const
 {
-    QMutexLocker lock(&d->mutex);
-    return d->byId.contains(id);
+    return !d->find(id).isNull();
 }
 
 QStringList ZepletSubscriptionManager::allSubscriptionIds() const
 {
     QMutexLocker lock(&d->mutex);
-    return d->byId.keys();
+    QStringList ids;
+    d->byId.forEach([&](const StoredSubscription *record) { ids.append(record->storedId); });
+    return ids;
 }
 
 int ZepletSubscriptionManager::validSubscriptionCount() const
 {
     QMutexLocker lock(&d->mutex);
     int count = 0;
-    for (const StoredPointer &record : qAsConst(d->byId))
-        count += record->isValid() ? 1 : 0;
+    d->byId.forEach([&](const StoredSubscription *record) { count += record->isValid() ? 1 : 0; });
     return count;
 }
 
@@ -220,23 +241,24 @@ int ZepletSubscriptionManager::subscriptionCountByType(ZepletEventType type) con
 {
     QMutexLocker lock(&d->mutex);
     const auto found = d->byType.constFind(type);
-    return found == d->byType.constEnd() ? 0 : static_cast<int>((*found)->list.records().size());
+    return found == d->byType.constEnd() ? 0 : (*found)->list.size();
 }
 
 int ZepletSubscriptionManager::subscriptionCountByPlugin(const QString &pluginName) const
 {
     QMutexLocker lock(&d->mutex);
     const auto found = d->byPlugin.constFind(pluginName);
-    return found == d->byPlugin.constEnd() ? 0 : static_cast<int>(found->records().size());
+    return found == d->byPlugin.constEnd() ? 0 : (*found)->list.size();
 }
 
 QStringList ZepletSubscriptionManager::subscriptionIds(const QString &pluginName) const
 {
     QMutexLocker lock(&d->mutex);
     QStringList ids;
-    const auto ofPlugin = d->byPlugin.value(pluginName);
-    for (const StoredSubscription *record : ofPlugin.records())
-        ids.append(record->storedId);
+    if (const PluginPointer ofPlugin = d->byPlugin.value(pluginName)) {
+        for (const StoredSubscription *record : ofPlugin->list.records())
+            ids.append(record->storedId);
+    }
     return ids;
 }
 

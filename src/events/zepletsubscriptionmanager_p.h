@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QMutex>
 
+#include "recordtable_p.h"
 #include "storedsubscription_p.h"
 #include "zepletsubscriptionmanager.h"
 
@@ -18,28 +19,34 @@ public:
     StoredPointer insert(const StoredPointer &record);
     /// Null for an unknown id.
     StoredPointer take(const QString &id);
+    /// A record that is in the manager.
+    StoredPointer take(StoredSubscription &record);
     StoredPointers takeByType(ZepletEventType type);
     StoredPointers takeByPlugin(const QString &pluginName);
     StoredPointers takeInvalid();
     StoredPointers takeAll();
 
     StoredPointer find(const QString &id) const;
-    /// The subscribers of that moment, not to be changed; null if there are none.
-    SubscribersPointer snapshot(ZepletEventType type) const;
+    /// The subscribers of that moment, not to be changed; null if there are none. Does not lock:
+    /// the bus makes all its changes under a mutex of its own, and calls this under that one.
+    SubscribersPointer snapshotUnlocked(ZepletEventType type) const { return byType.value(type); }
     StoredPointers subscribers(ZepletEventType type) const;
     StoredPointers subscriptionsOf(const QString &pluginName) const;
 
     mutable QMutex mutex;
-    QHash<QString, StoredPointer> byId;
+    /// The lists of `byType` own the records.
+    RecordTable<StoredSubscription *> byId;
     QHash<ZepletEventType, SubscribersPointer> byType;
-    QHash<QString, PlacedList<StoredSubscription *>> byPlugin;
+    QHash<QString, PluginPointer> byPlugin;
 
 private:
-    StoredPointer takeLocked(const QString &id);
+    StoredSubscription *findLocked(const QString &id, uint hash) const;
+    const StoredPointer &ownerOf(const StoredSubscription &record) const;
+    PluginPointer &pluginLocked(const QString &name);
+    StoredPointer takeLocked(StoredSubscription *record);
     StoredPointers takeLocked(StoredPointers records);
     StoredPointers subscribersLocked(ZepletEventType type) const;
     StoredPointers subscriptionsOfLocked(const QString &pluginName) const;
-    void unlink(StoredSubscription &record);
 };
 
 } // namespace zeplet

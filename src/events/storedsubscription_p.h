@@ -27,10 +27,10 @@ public:
     /// `place` is the member in which a record keeps its index in this list.
     using Place = int StoredSubscription::*;
 
-    void append(const Pointer &record, Place place)
+    void append(Pointer record, Place place)
     {
         (*record).*place = size();
-        m_records.push_back(record);
+        m_records.push_back(std::move(record));
     }
 
     /// Returns the list's pointer to the record. The last record moves into the gap.
@@ -73,6 +73,18 @@ inline PlacedList<StoredPointer> &writable(SubscribersPointer &subscribers)
     return subscribers->list;
 }
 
+/// The subscriptions of one type.
+struct TypeSubscriptions : QSharedData {
+    explicit TypeSubscriptions(ZepletEventType eventType)
+        : type(eventType)
+    {
+    }
+
+    const ZepletEventType type;
+    SubscribersPointer subscribers;
+};
+using TypePointer = QExplicitlySharedDataPointer<TypeSubscriptions>;
+
 /// The subscriptions of one plugin.
 struct PluginSubscriptions : QSharedData {
     explicit PluginSubscriptions(const QString &pluginName)
@@ -88,8 +100,8 @@ using PluginPointer = QExplicitlySharedDataPointer<PluginSubscriptions>;
 /// What is known of one context object, shared by all subscriptions that were ever bound to it:
 /// also one that was removed during a dispatch, and is still due in it, must not run once the
 /// object is gone.
-struct SubscriptionContext : QSharedData {
-    // Most objects have one or two, and come by the thousand.
+struct alignas(64) SubscriptionContext : QSharedData {
+    // Most objects have one or two, and come by the thousand: all of it in one line of memory.
     using Few = QVarLengthArray<StoredSubscription *, 2>;
 
     explicit SubscriptionContext(QObject *context)
@@ -133,8 +145,9 @@ struct StoredSubscription final : ZepletEventSubscription {
     const uint storedIdHash;
     const ZepletEventType storedType;
     const bool storedOneShot;
-    /// Set by the manager that stores it.
-    PluginPointer storedPlugin;
+    // Set by the manager that stores it. The type's entry owns the record, not the other way round.
+    TypeSubscriptions *ofType = nullptr;
+    PluginPointer ofPlugin;
 
     int typePlace = -1;
     int pluginPlace = -1;

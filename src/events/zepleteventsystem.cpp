@@ -69,10 +69,10 @@ ContextPointer Private::watch(QObject *object, QMutexLocker &lock)
     return context;
 }
 
-void Private::bind(const ContextPointer &context, StoredSubscription &record)
+void Private::bind(ContextPointer context, StoredSubscription &record)
 {
-    record.context = context;
-    context->subscriptions.append(&record, &StoredSubscription::contextPlace);
+    record.context = std::move(context);
+    record.context->subscriptions.append(&record, &StoredSubscription::contextPlace);
 }
 
 void Private::unbind(StoredSubscription &record)
@@ -87,7 +87,7 @@ StoredPointer Private::doUnsubscribe(const QString &id)
     if (!record)
         return record;
     unbind(*record);
-    emit q->subscriptionRemoved(record->storedId, record->storedType, record->storedPlugin->name);
+    emit q->subscriptionRemoved(record->storedId, record->storedType, record->ofPlugin->name);
     return record;
 }
 
@@ -180,40 +180,41 @@ ZepletEventSystem::~ZepletEventSystem()
 QString ZepletEventSystem::subscribe(ZepletEventType type, Callback callback,
                                      const QString &pluginName, QObject *context)
 {
-    const auto handler = QSharedPointer<ZepletEventHandlerWithContext>::create(
+    auto handler = QSharedPointer<ZepletEventHandlerWithContext>::create(
         type, context, std::move(callback), pluginName, QLatin1String("_handler"));
-    return doSubscribe(type, handler, pluginName, context);
+    return doSubscribe(type, std::move(handler), pluginName, context);
 }
 
 QString ZepletEventSystem::subscribeFiltered(ZepletEventType type, Filter filter, Callback callback,
                                              const QString &pluginName, QObject *context)
 {
-    const auto handler = QSharedPointer<ZepletEventHandlerFiltered>::create(
+    auto handler = QSharedPointer<ZepletEventHandlerFiltered>::create(
         type, std::move(filter), std::move(callback), pluginName, QLatin1String("_filter"));
-    return doSubscribe(type, handler, pluginName, context);
+    return doSubscribe(type, std::move(handler), pluginName, context);
 }
 
 QString ZepletEventSystem::subscribeOnce(ZepletEventType type, Callback callback,
                                          const QString &pluginName, QObject *context)
 {
-    const auto handler = QSharedPointer<ZepletEventHandlerOneShot>::create(
+    auto handler = QSharedPointer<ZepletEventHandlerOneShot>::create(
         type, std::move(callback), pluginName, QLatin1String("_oneshot"));
-    return doSubscribe(type, handler, pluginName, context);
+    return doSubscribe(type, std::move(handler), pluginName, context);
 }
 
 QString ZepletEventSystem::doSubscribe(ZepletEventType type,
                                        QSharedPointer<ZepletEventHandler> handler,
                                        const QString &pluginName, QObject *context)
 {
-    const auto record = StoredPointer::create(pluginName, type, std::move(handler));
+    auto created = StoredPointer::create(pluginName, type, std::move(handler));
+    StoredSubscription &record = *created;
 
     QMutexLocker lock(&d->mutex);
-    const ContextPointer watched = context ? d->watch(context, lock) : ContextPointer();
-    d->index().insert(record);
+    ContextPointer watched = context ? d->watch(context, lock) : ContextPointer();
+    d->index().insert(std::move(created));
     if (watched)
-        d->bind(watched, *record);
-    emit subscriptionAdded(record->storedId, type, pluginName);
-    return record->storedId;
+        d->bind(std::move(watched), record);
+    emit subscriptionAdded(record.storedId, type, pluginName);
+    return record.storedId;
 }
 
 void ZepletEventSystem::onContextDestroyed(QObject *object)
@@ -303,7 +304,7 @@ int ZepletEventSystem::unsubscribeByTypeAndPlugin(const QString &pluginName, Zep
     QMutexLocker lock(&d->mutex);
     const auto ofType = d->index().subscribers(type);
     for (const StoredPointer &record : ofType) {
-        if (record->storedPlugin->name == pluginName)
+        if (record->ofPlugin->name == pluginName)
             records.push_back(record);
     }
     return d->doUnsubscribe(records);

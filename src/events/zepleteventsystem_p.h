@@ -30,7 +30,7 @@ public:
     /// locked, and unlocks it meanwhile to connect.
     ContextPointer watch(QObject *object, QMutexLocker &lock);
     /// Adds the record to those of its context object. Needs `mutex` locked.
-    static void bind(const ContextPointer &context, StoredSubscription &record);
+    static void bind(ContextPointer context, StoredSubscription &record);
     /// Removes one subscription and tells of it; null for an unknown id. Needs `mutex` locked.
     StoredPointer doUnsubscribe(const QString &id);
     /// Removes those of the subscriptions that are still there; returns how many. Needs `mutex`

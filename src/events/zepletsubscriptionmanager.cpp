@@ -21,15 +21,16 @@ QList<QSharedPointer<ZepletEventSubscription>> toPublicList(const StoredPointers
 
 } // namespace
 
-StoredPointer Private::insert(const StoredPointer &record)
+StoredPointer Private::insert(StoredPointer created)
 {
     QMutexLocker lock(&mutex);
-    const uint hash = record->storedIdHash;
-    StoredPointer replaced = takeLocked(findLocked(record->storedId, hash));
-    byId.insert(hash, record.data());
-    writable(byType[record->storedType]).append(record, &StoredSubscription::typePlace);
-    record->storedPlugin = pluginLocked(record->pluginName);
-    record->storedPlugin->list.append(record.data(), &StoredSubscription::pluginPlace);
+    StoredSubscription &record = *created;
+    StoredPointer replaced = takeLocked(findLocked(record.storedId, record.storedIdHash));
+    byId.insert(record.storedIdHash, &record);
+    record.ofPlugin = pluginLocked(record.pluginName);
+    record.ofPlugin->list.append(&record, &StoredSubscription::pluginPlace);
+    record.ofType = typeLocked(record.storedType).data();
+    writable(record.ofType->subscribers).append(std::move(created), &StoredSubscription::typePlace);
     return replaced;
 }
 
@@ -105,10 +106,26 @@ StoredSubscription *Private::findLocked(const QString &id, uint hash) const
                      [&id](const StoredSubscription &record) { return record.storedId == id; });
 }
 
-const StoredPointer &Private::ownerOf(const StoredSubscription &record) const
+const StoredPointer &Private::ownerOf(const StoredSubscription &record)
 {
-    const auto ofType = byType.constFind(record.storedType);
-    return (*ofType)->list.records()[static_cast<std::size_t>(record.typePlace)];
+    const auto place = static_cast<std::size_t>(record.typePlace);
+    return record.ofType->subscribers->list.records()[place];
+}
+
+TypePointer Private::findType(ZepletEventType type) const
+{
+    return byType.find(static_cast<uint>(type),
+                       [type](const TypeSubscriptions &entry) { return entry.type == type; });
+}
+
+TypePointer Private::typeLocked(ZepletEventType type)
+{
+    TypePointer entry = findType(type);
+    if (!entry) {
+        entry = new TypeSubscriptions(type);
+        byType.insert(static_cast<uint>(type), entry);
+    }
+    return entry;
 }
 
 PluginPointer &Private::pluginLocked(const QString &name)
@@ -125,15 +142,15 @@ StoredPointer Private::takeLocked(StoredSubscription *record)
         return {};
     byId.remove(record->storedIdHash, record);
 
-    PluginSubscriptions &ofPlugin = *record->storedPlugin;
+    PluginSubscriptions &ofPlugin = *record->ofPlugin;
     ofPlugin.list.remove(*record, &StoredSubscription::pluginPlace);
     if (ofPlugin.list.records().empty())
         byPlugin.remove(ofPlugin.name);
 
-    const auto ofType = byType.find(record->storedType);
-    StoredPointer taken = writable(*ofType).remove(*record, &StoredSubscription::typePlace);
-    if ((*ofType)->list.records().empty())
-        byType.erase(ofType);
+    PlacedList<StoredPointer> &subscribers = writable(record->ofType->subscribers);
+    StoredPointer taken = subscribers.remove(*record, &StoredSubscription::typePlace);
+    if (subscribers.records().empty())
+        byType.remove(static_cast<uint>(record->storedType), TypePointer(record->ofType));
     return taken;
 }
 
@@ -146,8 +163,8 @@ StoredPointers Private::takeLocked(StoredPointers records)
 
 StoredPointers Private::subscribersLocked(ZepletEventType type) const
 {
-    const auto found = byType.constFind(type);
-    return found == byType.constEnd() ? StoredPointers() : (*found)->list.records();
+    const TypePointer entry = findType(type);
+    return entry ? entry->subscribers->list.records() : StoredPointers();
 }
 
 StoredPointers Private::subscriptionsOfLocked(const QString &pluginName) const
@@ -240,8 +257,8 @@ ZepletSubscriptionManager::getSubscriptionsByPlugin(const QString &pluginName) c
 int ZepletSubscriptionManager::subscriptionCountByType(ZepletEventType type) const
 {
     QMutexLocker lock(&d->mutex);
-    const auto found = d->byType.constFind(type);
-    return found == d->byType.constEnd() ? 0 : (*found)->list.size();
+    const TypePointer entry = d->findType(type);
+    return entry ? entry->subscribers->list.size() : 0;
 }
 
 int ZepletSubscriptionManager::subscriptionCountByPlugin(const QString &pluginName) const
@@ -265,7 +282,9 @@ QStringList ZepletSubscriptionManager::subscriptionIds(const QString &pluginName
 QList<ZepletEventType> ZepletSubscriptionManager::registeredEventTypes() const
 {
     QMutexLocker lock(&d->mutex);
-    return d->byType.keys();
+    QList<ZepletEventType> types;
+    d->byType.forEach([&](const TypePointer &entry) { types.append(entry->type); });
+    return types;
 }
 
 void ZepletSubscriptionManager::clear()

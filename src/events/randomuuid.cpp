@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr std::size_t UuidBytes = 16;
-constexpr std::size_t UuidCharacters = 36;
+constexpr int UuidCharacters = 36;
 
 // One system call for 256 ids: a call for each of them would cost more than all the rest of an
 // event.
@@ -78,15 +78,15 @@ QString randomUuid()
     bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0F) | 0x40); // version 4
     bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3F) | 0x80); // variant of RFC 4122
 
-    QString text(UuidCharacters, Qt::Uninitialized);
-    QChar *out = text.data();
+    std::array<char16_t, UuidCharacters> text;
+    char16_t *out = text.data();
     for (std::size_t i = 0; i < UuidBytes; ++i) {
         if (i == 4 || i == 6 || i == 8 || i == 10)
-            *out++ = QLatin1Char('-');
-        *out++ = hexPairs[bytes[i]][0];
-        *out++ = hexPairs[bytes[i]][1];
+            *out++ = u'-';
+        std::memcpy(out, &hexPairs[bytes[i]], sizeof(HexPair));
+        out += 2;
     }
-    return text;
+    return QString(reinterpret_cast<const QChar *>(text.data()), UuidCharacters);
 }
 
 } // namespace zeplet

@@ -205,11 +205,10 @@ QString ZepletEventSystem::doSubscribe(ZepletEventType type,
                                        QSharedPointer<ZepletEventHandler> handler,
                                        const QString &pluginName, QObject *context)
 {
-    auto created = StoredPointer::create(pluginName, type, std::move(handler));
-    StoredSubscription &record = *created;
-
     QMutexLocker lock(&d->mutex);
     ContextPointer watched = context ? d->watch(context, lock) : ContextPointer();
+    auto created = StoredPointer::create(pluginName, type, std::move(handler));
+    StoredSubscription &record = *created;
     d->index().insert(std::move(created));
     if (watched)
         d->bind(std::move(watched), record);

@@ -140,6 +140,8 @@ StoredPointer Private::takeLocked(StoredSubscription *record)
 {
     if (!record)
         return {};
+    // Among thousands it is rarely in the cache, and it will be released soon.
+    __builtin_prefetch(record->handler.data());
     byId.remove(record->storedIdHash, record);
 
     PluginSubscriptions &ofPlugin = *record->ofPlugin;

@@ -79,13 +79,20 @@ LogTarget PluginLogFileManager::Private::currentTarget(const QString &base, cons
 {
     initializeRoot(base);
     const QString &date = today();
-    const QString key = keyOf(nameOf(base), date);
-    DayFile &day = m_days[key];
+    LastTarget &last = m_lastTargets[base];
+    if (last.date != date || last.ext != ext) {
+        last = {date, ext, -1, {keyOf(nameOf(base), date), QString()}};
+    }
+    DayFile &day = m_days[last.target.key];
     if (day.index < 0) {
         QDir().mkpath(QFileInfo(base).absolutePath());
         day.index = lastIndexOnDisk(base, date, ext);
     }
-    return {key, logbase::datedName(base, date, day.index, ext)};
+    if (last.index != day.index) {
+        last.index = day.index;
+        last.target.path = logbase::datedName(base, date, day.index, ext);
+    }
+    return last.target;
 }
 
 LogTarget PluginLogFileManager::Private::nextTargetIfFull(const QString &base, const QString &ext)

@@ -57,6 +57,14 @@ private:
         int index = -1;
         qint64 size = 0;
     };
+    /** What the last line for a base was given: putting it together takes as long as all the rest.
+     */
+    struct LastTarget {
+        QString date;
+        QString ext;
+        int index = -1;
+        LogTarget target;
+    };
     struct Message {
         QtMsgType type;
         QString text;
@@ -69,6 +77,7 @@ private:
     QMutex m_mutex;
     bool m_initialized = false;
     QHash<QString, DayFile> m_days;
+    QHash<QString, LastTarget> m_lastTargets;
     qint64 m_total = 0;
     std::vector<Message> m_messages;
     std::time_t m_dateTaken = -1;

@@ -1,5 +1,3 @@
-#include "testcolumns.h"
-
 #include <brisa/controllermanager.h>
 #include <brisa/tasknetworkmanager.h>
 #include <fakepeer.h>
@@ -13,6 +11,7 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <atomic>
 #include <stdexcept>
 
 using brisa::ControllerManager;
@@ -92,32 +91,29 @@ private Q_SLOTS:
         QCOMPARE(robotTemplate, 12);
     }
 
-    void unusableControllerIsTriedAgain_data()
-    {
-        const auto row = testcolumns<QString, QString>("command", "fault");
-        for (const char *command : {"system.state.get", "system.controller.get_params"}) {
-            for (const char *fault : {"starting up", "not an object"})
-                row(qPrintable(QString::asprintf("%s: %s", command, fault)), command, fault);
-        }
-    }
-
     void unusableControllerIsTriedAgain()
     {
-        QFETCH(QString, command);
-        QFETCH(QString, fault);
-        int asked = 0;
-        m_peer->script(command, [&asked, fault](const rpc::Message &request) {
-            const rpc::Message answer = ++asked > 1 ? rpc::Message::answer(request.id, idleState)
-                : fault == "not an object"          ? rpc::Message::answer(request.id, 5)
-                                           : rpc::Message::refusal(request.id, rpc::refused, fault);
-            return QVector<QByteArray> {rpc::encode(answer)};
-        });
-        announce(qPrintable("^controller: link closed: " + command + ": " + fault));
-        QSignalSpy connected(m_controller.data(), &ControllerManager::rcConnected);
-        m_peer->dropClients();
-        QVERIFY(connected.wait());
-        QCOMPARE(asked, 2);
-        QCOMPARE(connected.size(), 1);
+        for (const QString command : {"system.state.get", "system.controller.get_params"}) {
+            for (const QString fault : {"starting up", "not an object"}) {
+                cleanup();
+                init();
+                std::atomic_int asked {0};
+                m_peer->script(command, [&asked, fault](const rpc::Message &request) {
+                    rpc::Message answer = rpc::Message::answer(request.id, idleState);
+                    if (++asked == 1 && fault == "not an object")
+                        answer = rpc::Message::answer(request.id, 5);
+                    else if (asked == 1)
+                        answer = rpc::Message::refusal(request.id, rpc::refused, fault);
+                    return QVector<QByteArray> {rpc::encode(answer)};
+                });
+                announce(qPrintable("^controller: link closed: " + command + ": " + fault));
+                QSignalSpy connected(m_controller.data(), &ControllerManager::rcConnected);
+                m_peer->dropClients();
+                QVERIFY(connected.wait());
+                QCOMPARE(asked.load(), 2);
+                QCOMPARE(connected.size(), 1);
+            }
+        }
     }
 
     void oneChangeIsOneEvent()

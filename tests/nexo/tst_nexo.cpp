@@ -1,5 +1,3 @@
-#include "testcolumns.h"
-
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 #include <fakepeer.h>
@@ -164,50 +162,44 @@ private Q_SLOTS:
         settings->set("nexo.limit", 30);
     }
 
-    void changesReachWatchers_data()
-    {
-        const auto row = testcolumns<QString, QString, QJsonValue, QJsonValue, int>(
-            "watched", "key", "value", "now", "events");
-        row("the key", "name", "name", json("\"leg\""), json("\"leg\""), 1);
-        row("equal value", "name", "name", json("\"arm\""), json("\"arm\""), 0);
-        row("a key below", "move", "move.error.code", json("7"),
-            json(R"({"speed": 5, "error": {"code": 7}})"), 1);
-        row("a key above", "move.error.code", "move", json(R"({"error": {"code": 8}})"), json("8"),
-            1);
-        row("a key above, no difference", "move.speed", "move", json(R"({"speed": 5})"), json("5"),
-            0);
-        row("gone with a key above", "move.speed", "move", json("1"), QJsonValue(), 1);
-        row("a sibling", "move.speed", "move.error", json("1"), json("5"), 0);
-        row("a similar name", "move", "mover", json("1"),
-            json(R"({"speed": 5, "error": {"code": 0}})"), 0);
-        row("a new key", "new.key", "new.key", json("[1]"), json("[1]"), 1);
-        row("null", "name", "name", json("null"), QJsonValue(), 1);
-        row("list element", "monitor.pers.#0", "monitor.pers", json("[\"z\"]"), json("\"z\""), 1);
-    }
-
     void changesReachWatchers()
     {
-        QFETCH(QString, watched);
-        QFETCH(QString, key);
-        QFETCH(QJsonValue, value);
-        QFETCH(QJsonValue, now);
-        QFETCH(int, events);
-        ModuleObject *node = m_nexo->watchNode(watched);
-        QSignalSpy changed(node, &ModuleObject::changed);
-        QSignalSpy unwatched(m_nexo->watchNode("x" + key), &ModuleObject::changed);
-        m_nexo->watch(nullptr, watched, true);
-        change(key, value);
-        change(key, value);
-        change("x" + key, value);
-        passChanges();
-        QCOMPARE(changed.size(), events);
-        QCOMPARE(node->exportToJson(), now);
-        QCOMPARE(m_nexo->get(nullptr, watched)->exportToJson(), now);
-        QCOMPARE(unwatched.size(), 0);
-        m_nexo->watch(nullptr, watched, false);
-        change(key, "another");
-        passChanges();
-        QCOMPARE(changed.size(), events);
+        const struct {
+            const char *watched, *key, *value, *now;
+            int events;
+        } rows[] = {
+            {"name", "name", "\"leg\"", "\"leg\"", 1},
+            {"name", "name", "\"arm\"", "\"arm\"", 0}, // no difference
+            {"name", "name", "null", "null", 1},
+            {"new.key", "new.key", "[1]", "[1]", 1},
+            {"move", "move.error.code", "7", R"({"speed": 5, "error": {"code": 7}})", 1},
+            {"move.error.code", "move", R"({"error": {"code": 8}})", "8", 1},
+            {"move.speed", "move", R"({"speed": 5})", "5", 0},
+            {"move.speed", "move", "1", "null", 1},
+            {"move.speed", "move.error", "1", "5", 0},
+            {"move", "mover", "1", R"({"speed": 5, "error": {"code": 0}})", 0},
+            {"monitor.pers.#0", "monitor.pers", "[\"z\"]", "\"z\"", 1},
+        };
+        for (const auto &[watched, key, value, now, events] : rows) {
+            cleanup();
+            init();
+            ModuleObject *node = m_nexo->watchNode(watched);
+            QSignalSpy changed(node, &ModuleObject::changed);
+            QSignalSpy unwatched(m_nexo->watchNode(QString("x") + key), &ModuleObject::changed);
+            m_nexo->watch(nullptr, watched, true);
+            change(key, json(value));
+            change(key, json(value));
+            change(QString("x") + key, json(value));
+            passChanges();
+            QVERIFY2(changed.size() == events, watched);
+            QCOMPARE(node->exportToJson(), json(now));
+            QCOMPARE(m_nexo->get(nullptr, watched)->exportToJson(), json(now));
+            QCOMPARE(unwatched.size(), 0);
+            m_nexo->watch(nullptr, watched, false);
+            change(key, "another");
+            passChanges();
+            QCOMPARE(changed.size(), events);
+        }
     }
 
     void watchesCountPerOrigin()

@@ -1,5 +1,3 @@
-#include "testcolumns.h"
-
 #include <ostrel/modulemanager.h>
 #include <ostrel/moduleobject.h>
 
@@ -118,35 +116,32 @@ private Q_SLOTS:
         QCOMPARE(status.st_mode & 07777u, 0640u);
     }
 
-    void refuses_data()
-    {
-        // below a directory with: dir/, plain, link -> plain, fifo
-        const auto row = testcolumns<QString, QJsonValue, QString>("target", "value", "reason");
-
-        row("directory", "dir", 1, "dir is no plain file");
-        row("symbolic link", "link", 1, "link is no plain file");
-        row("dangling link", "dangling", 1, "dangling is no plain file");
-        row("pipe", "fifo", 1, "fifo is no plain file");
-        row("file as directory", "plain/x", 1, "can't make directory .*plain: ");
-        row("name too long", QString(300, 'x'), 1, "can't examine");
-        row("undefined", "plain", QJsonValue::Undefined, "the value is undefined");
-    }
-
     void refuses()
     {
-        QFETCH(QString, target);
-        QFETCH(QJsonValue, value);
-        QFETCH(QString, reason);
         QVERIFY(QDir(m_directory->path()).mkdir("dir"));
         QVERIFY(ModuleManager::writeToJson(path("plain"), "old", false));
         QVERIFY(QFile::link(path("plain"), path("link")));
         QVERIFY(QFile::link(path("elsewhere"), path("dangling")));
         QCOMPARE(::mkfifo(QFile::encodeName(path("fifo")).constData(), 0600), 0);
         const QStringList before = entries();
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("\\[E\\|.*writeToJson: .*" + reason));
-        QVERIFY(!ModuleManager::writeToJson(path(target), value, false));
-        QCOMPARE(contentOf(path("plain")), QByteArray("\"old\""));
-        QCOMPARE(entries(), before);
+        const struct {
+            QString target;
+            QJsonValue value;
+            QString reason;
+        } rows[] = {{"dir", 1, "dir is no plain file"},
+                    {"link", 1, "link is no plain file"},
+                    {"dangling", 1, "dangling is no plain file"},
+                    {"fifo", 1, "fifo is no plain file"},
+                    {"plain/x", 1, "can't make directory .*plain: "},
+                    {QString(300, 'x'), 1, "can't examine"},
+                    {"plain", QJsonValue::Undefined, "the value is undefined"}};
+        for (const auto &[target, value, reason] : rows) {
+            QTest::ignoreMessage(QtDebugMsg,
+                                 QRegularExpression("\\[E\\|.*writeToJson: .*" + reason));
+            QVERIFY2(!ModuleManager::writeToJson(path(target), value, false), qPrintable(target));
+            QCOMPARE(contentOf(path("plain")), QByteArray("\"old\""));
+            QCOMPARE(entries(), before);
+        }
     }
 
     // A limit on the size of files stands in for the full disk: the write fails half way as there.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QDebug>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStringList>
@@ -14,13 +15,9 @@ constexpr int smallestTouch = 53; // 9 mm on a 10.1 inch screen of 1280 x 800
 
 inline QString describe(const QWidget *widget)
 {
-    return QStringLiteral("%1 \"%2\" %3x%4 at %5,%6 in %7")
-        .arg(widget->metaObject()->className(), widget->objectName())
-        .arg(widget->width())
-        .arg(widget->height())
-        .arg(widget->x())
-        .arg(widget->y())
-        .arg(widget->parentWidget() ? widget->parentWidget()->metaObject()->className() : "");
+    QString text;
+    QDebug(&text) << widget << "in" << widget->parentWidget();
+    return text;
 }
 
 /** Content that may be larger than what is seen of it. */

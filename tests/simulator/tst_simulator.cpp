@@ -1,9 +1,9 @@
-#include "simulatorfixture.h"
 #include "testclient.h"
 
 #include <QJsonArray>
 #include <QTcpSocket>
 #include <QtTest>
+#include <simulator/simulator.h>
 
 using simulator::Scenario;
 using simulator::Simulator;
@@ -406,32 +406,6 @@ private slots:
         QCOMPARE(started.problems.size(), 1);
         QVERIFY(
             started.problems[0][0].toString().contains("program start: a program cannot start"));
-    }
-
-    void blockingCallerOnAnotherThread()
-    {
-        SimulatorFixture fixture;
-        QTcpSocket socket; // blocks this thread, so that only the fixture's can answer
-        socket.connectToHost("127.0.0.1", fixture.controllerPort());
-        QVERIFY(socket.waitForConnected());
-        socket.write("GET / HTTP/1.1\r\nHost: localhost\r\nUpgrade: websocket\r\n"
-                     "Connection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
-                     "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n");
-        QVERIFY(socket.waitForReadyRead());
-        QVERIFY(socket.readAll().startsWith("HTTP/1.1 101"));
-
-        fixture.control("set power on");
-        QCOMPARE(fixture.control("state")["robot"]["power"], QJsonValue("on"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("jump: unknown control command"));
-        QVERIFY(fixture.control("jump").isUndefined());
-        fixture.stop();
-        QVERIFY(socket.waitForReadyRead()); // the state's notification
-        QVERIFY(socket.state() == QAbstractSocket::UnconnectedState
-                || socket.waitForDisconnected());
-        fixture.start();
-        QTcpSocket again;
-        again.connectToHost("127.0.0.1", fixture.controllerPort());
-        QVERIFY(again.waitForConnected());
     }
 };
 

@@ -2,8 +2,8 @@
 #
 # Adds a plugin: a loadable library with C++17, AUTOMOC, hidden visibility and checked symbols that
 # links Zeplet::zeplet and LIBS. NAME is the name that the plugin registers: a letter or digit, then
-# letters, digits, "_" and "-"; it is also the file's name (NAME.so), the target's unless TARGET
-# says otherwise, and part of the tag (name, library version, Qt version, compiler interface,
+# at most 63 letters, digits, "_" and "-"; it is also the file's name (NAME.so), the target's unless
+# TARGET says otherwise, and part of the tag (name, library version, Qt version, compiler interface,
 # architecture) that a panel reads before it opens the library.
 #
 # The library is built into plugins/ of the build tree and, without NO_INSTALL, installed into
@@ -31,9 +31,10 @@ endfunction()
 
 # The arguments of zeplet_add_plugin; the name becomes a file's name and a line of the tag.
 macro(zeplet_check_plugin_arguments)
-    if(NOT ARG_NAME MATCHES "^[A-Za-z0-9][A-Za-z0-9_-]*$")
+    string(LENGTH "${ARG_NAME}" length)
+    if(NOT ARG_NAME MATCHES "^[A-Za-z0-9][A-Za-z0-9_-]*$" OR length GREATER 64)
         message(FATAL_ERROR "zeplet_add_plugin: NAME '${ARG_NAME}' is not a letter or digit followed "
-                            "by letters, digits, '_' and '-'")
+                            "by at most 63 letters, digits, '_' and '-'")
     endif()
     if(NOT ARG_SOURCES)
         message(FATAL_ERROR "zeplet_add_plugin: ${ARG_NAME} has no SOURCES")

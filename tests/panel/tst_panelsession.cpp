@@ -15,11 +15,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <brisa/logbanner.h>
 #include <brisa/managerhelper.h>
 #include <kest/bmodule.h>
 #include <kest/centerwidget.h>
 #include <ostrel/moduleobject.h>
 #include <stdexcept>
+#include <zeplet/plugin/uiservices.h>
 
 using panel::PluginRecord;
 
@@ -134,6 +136,16 @@ private Q_SLOTS:
         QFile list(m_directory.filePath("run/left-out.json"));
         QVERIFY(list.open(QIODevice::ReadOnly));
         QCOMPARE(QJsonDocument::fromJson(list.readAll()).object(), QJsonObject());
+    }
+
+    void libraryMessagesReachTheBanner()
+    {
+        const QString text = QStringLiteral("The point was not written.");
+        QCOMPARE(zeplet::ThrowLog("zeplet", zeplet::ThrowLogError, text), 0);
+        const auto *const banner = m_session->window().findChild<brisa::LogBanner *>();
+        QVERIFY(banner);
+        QVERIFY(banner->message().endsWith(text));
+        QCOMPARE(banner->level(), QStringLiteral("error"));
     }
 
     void thrownOutOfAnEvent()

@@ -9,6 +9,8 @@
 #include <zeplet/plugin/uiservices.h>
 
 #include <QAbstractButton>
+#include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 #include <functional>
@@ -123,6 +125,35 @@ private Q_SLOTS:
         QTRY_VERIFY(grip() && grip()->isEnabled());
         QTest::mouseClick(grip(), Qt::LeftButton);
         QCOMPARE(states, QVector<bool>({true, false}));
+    }
+
+    void iconsAreLoadedFromTheirPaths()
+    {
+        QTemporaryDir directory;
+        const auto picture = [&directory](const QString &colour) {
+            QImage image(48, 48, QImage::Format_RGB32);
+            image.fill(QColor(colour));
+            const QString path = directory.filePath(colour + ".png");
+            return image.save(path) ? path : QString();
+        };
+        MadeModule made("icons");
+        qo::kivra::PhysicalButtonBar bar(Qt::Horizontal);
+        const PhysicalButton key {{}, picture("red"), picture("lime"), {}};
+        CreatePhyButtonList("icons", "icons", {key}, {}, {});
+        QTRY_COMPARE(bar.currentPage(), QStringLiteral("icons"));
+        const auto buttons = bar.findChildren<QAbstractButton *>();
+        const auto found = std::find_if(buttons.begin(), buttons.end(), [](auto *button) {
+            return button->objectName().isEmpty();
+        });
+        QVERIFY(found != buttons.end());
+        const auto colour = [button = *found] {
+            return button->grab().toImage().pixelColor(button->rect().center());
+        };
+
+        QCOMPARE(colour(), QColor("red"));
+        QTest::mousePress(*found, Qt::LeftButton);
+        QCOMPARE(colour(), QColor("lime"));
+        QTest::mouseRelease(*found, Qt::LeftButton);
     }
 
     void switchingWithoutANameHidesTheSideBar()

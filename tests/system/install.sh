@@ -6,6 +6,7 @@ build=${1:?usage: install.sh BUILD_DIRECTORY}
 root=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+export CCACHE_BASEDIR=$work CCACHE_NOHASHDIR=1 # each run has another directory
 options=(-G Ninja -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_BUILD_TYPE=Debug
     -DCMAKE_PREFIX_PATH="$work/prefix")
 
@@ -28,6 +29,24 @@ cmake --build "$work/monitor/build"
 QT_QPA_PLATFORM=offscreen "$work/prefix/bin/zeplet-panel" --runtime "$work/run" \
     --plugins "$work/monitor/build/plugins" --for 0.5
 grep "'monitor' init" "$work"/run/log/zeplet_*.log
+
+# A name that a panel would refuse is refused when the plugin is configured.
+mkdir "$work/named"
+cat >"$work/named/CMakeLists.txt" <<'EOF'
+cmake_minimum_required(VERSION 3.25)
+project(named LANGUAGES CXX)
+find_package(Zeplet REQUIRED)
+file(TOUCH ${CMAKE_CURRENT_BINARY_DIR}/plugin.cpp)
+zeplet_add_plugin(NAME "${name}" SOURCES ${CMAKE_CURRENT_BINARY_DIR}/plugin.cpp)
+EOF
+for name in good-Name_1 'bad name' ../up -lead "$(printf 'a%.0s' {1..65})"; do
+    expected=refused
+    [ "$name" != good-Name_1 ] || expected=accepted
+    found=accepted
+    cmake -S "$work/named" -B "$work/named/build" "${options[@]}" -Dname="$name" >"$work/named.txt" \
+        2>&1 || found=refused
+    [ $found = $expected ] || { echo "the plugin name '$name' was $found" >&2; exit 1; }
+done
 
 cmake -S "$root" -B "$work/library" "${options[@]}" -DZEPLET_HOST=ZepletHost >/dev/null
 cmake --build "$work/library"

@@ -2,7 +2,9 @@
 // key behind, as a careless plugin does.
 #include "fixture.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QThread>
 #include <cstdio>
 #include <cstdlib>
 #include <zeplet/events/zepleteventsystem.h>
@@ -30,6 +32,15 @@ void say(const char *moment)
     std::fflush(stdout);
 }
 
+// A joined thread leaves the process list a moment later.
+void sayAtExit()
+{
+    const QDeadlineTimer limit(10000);
+    while (isIoThreadThere() && !limit.hasExpired())
+        QThread::yieldCurrentThread();
+    say("process ends");
+}
+
 class Ending : public zeplet::PluginBase
 {
 public:
@@ -43,7 +54,7 @@ public:
             zeplet::NetworkDisconnected, {}, [](const zeplet::ZepletEvent &) {}, name);
         zeplet::zepletInterface()->connectNexoData(name, QStringLiteral("demo.counter"), {});
         connect(zeplet::zepletEvent(), &QObject::destroyed, [] { say("bus ends"); });
-        std::atexit([] { say("process ends"); });
+        std::atexit(sayAtExit);
     }
     void detach() override { say("detach"); }
 };

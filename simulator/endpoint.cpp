@@ -9,8 +9,6 @@ namespace simulator
 
 namespace
 {
-/** Who has not asked for a WebSocket by then takes the place of a client in vain. */
-constexpr int kHandshakeMs = 5000;
 /** A frame of the greatest size with its header has to fit. */
 constexpr qint64 kReadBuffer = rpc::maxFrameBytes + qint64(64) * 1024;
 } // namespace
@@ -125,10 +123,10 @@ void Endpoint::admit(QTcpSocket *transport)
         if (m_inHandshake.contains(peer))
             transport->deleteLater();
     });
-    QTimer::singleShot(kHandshakeMs, transport, [this, transport, peer] {
+    QTimer::singleShot(m_handshakeMs, transport, [this, transport, peer] {
         if (!m_inHandshake.contains(peer))
             return;
-        report(QStringLiteral("client closed: no handshake within %1 ms").arg(kHandshakeMs));
+        report(QStringLiteral("client closed: no handshake within %1 ms").arg(m_handshakeMs));
         transport->abort();
     });
     transport->setReadBufferSize(kReadBuffer);

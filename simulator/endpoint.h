@@ -38,6 +38,8 @@ public:
     void notify(const QString &method, const QJsonObject &params);
     void setSilent(bool silent);
     void dropClients();
+    /** Who has not asked for a WebSocket by then takes the place of a client in vain. */
+    void setHandshakeLimit(int ms) { m_handshakeMs = ms; }
 
     int clientCount() const { return m_clients.size(); }
     /** The keys that any client watches, sorted. */
@@ -64,6 +66,7 @@ private:
     QTcpSocket m_reserved; ///< bound to the port, never listening
     QVector<ClientConnection *> m_clients;
     quint16 m_port = 0;
+    int m_handshakeMs = 5000;
     bool m_silent = false;
 };
 

@@ -159,6 +159,12 @@ void Simulator::dropHubClients()
     d->hubEnd.dropClients();
 }
 
+void Simulator::setHandshakeLimit(int ms)
+{
+    d->controllerEnd.setHandshakeLimit(ms);
+    d->hubEnd.setHandshakeLimit(ms);
+}
+
 QJsonObject Simulator::state() const
 {
     QJsonArray faults;

@@ -46,6 +46,8 @@ public:
     void notify(const QString &path, const QJsonValue &value);
     void dropControllerClients();
     void dropHubClients();
+    /** What a client may take for its handshake from now on; 5000 ms at first. */
+    void setHandshakeLimit(int ms);
 
     /** The robot's state, the ports, how many clients there are, what they watch, the faults. */
     QJsonObject state() const;

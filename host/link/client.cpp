@@ -2,7 +2,6 @@
 
 #include "link/connection_p.h"
 #include "link/iothread.h"
-#include "link/limits.h"
 #include "link/linklog_p.h"
 #include "link/message.h"
 
@@ -41,6 +40,7 @@ public:
 
     QString name;
     IoThread *ioThread = nullptr;
+    Liveness liveness = usualLiveness;
     std::shared_ptr<Channel> channel; ///< null: closed
     Connection *connection = nullptr; ///< belongs to the I/O thread
     quint64 session = 0; ///< the one this side has heard of; 0: none
@@ -49,10 +49,11 @@ public:
     QHash<qint64, Callback> callbacks;
 };
 
-Client::Client(const QString &name, IoThread *ioThread, QObject *parent)
+Client::Client(const QString &name, IoThread *ioThread, QObject *parent, const Liveness &liveness)
     : QObject(parent)
     , d(new Private)
 {
+    d->liveness = liveness;
     d->name = name;
     d->ioThread = ioThread;
 }
@@ -66,7 +67,7 @@ void Client::open(const QUrl &url)
 {
     close();
     d->unknownLogged = 0;
-    d->connection = new Connection(d->name, url);
+    d->connection = new Connection(d->name, url, d->liveness);
     d->channel = std::make_shared<Channel>(this, d->connection);
     d->connection->setChannel(d->channel);
     d->ioThread->adopt(d->connection);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "link/limits.h"
+
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
@@ -44,7 +46,8 @@ public:
     using Callback = std::function<void(const Answer &)>;
 
     /** name stands in log lines and takes no part in the protocol. ioThread outlives the client. */
-    Client(const QString &name, IoThread *ioThread, QObject *parent = nullptr);
+    Client(const QString &name, IoThread *ioThread, QObject *parent = nullptr,
+           const Liveness &liveness = usualLiveness);
     ~Client() override;
 
     /** Connects to a ws:// address and stays connected until close(). Closes what was open. */

@@ -1,6 +1,5 @@
 #include "link/connection_p.h"
 
-#include "link/limits.h"
 #include "link/linklog_p.h"
 #include "link/message.h"
 
@@ -33,14 +32,15 @@ Answer toAnswer(const Message &message)
 
 } // namespace
 
-Connection::Connection(const QString &name, const QUrl &url)
+Connection::Connection(const QString &name, const QUrl &url, const Liveness &liveness)
     : m_name(name)
     , m_url(url)
+    , m_liveness(liveness)
     , m_ticker(new QTimer(this))
     , m_retry(new QTimer(this))
     , m_expiry(new QTimer(this))
 {
-    m_ticker->setInterval(pingInterval);
+    m_ticker->setInterval(m_liveness.pingInterval);
     m_retry->setSingleShot(true);
     m_expiry->setSingleShot(true);
     m_expiry->setTimerType(Qt::PreciseTimer);
@@ -122,10 +122,10 @@ void Connection::sessionUp()
 void Connection::tick()
 {
     // A late tick says that this thread stood still: what the peer sent meanwhile is unread yet.
-    const bool late = m_ticked.restart() > 2 * pingInterval;
+    const bool late = m_ticked.restart() > 2 * m_liveness.pingInterval;
     if (late)
         m_heard.start();
-    if (m_heard.elapsed() < maxSilence) {
+    if (m_heard.elapsed() < m_liveness.maxSilence) {
         if (m_session)
             m_socket->ping();
         return;
@@ -153,7 +153,7 @@ void Connection::cutOff(const QString &reason, Cause cause)
 {
     QWebSocket *socket = m_socket;
     socket->disconnect(this);
-    if (m_session && m_heard.elapsed() < maxSilence)
+    if (m_session && m_heard.elapsed() < m_liveness.maxSilence)
         socket->close(QWebSocketProtocol::CloseCodePolicyViolated, reason.left(40));
     else
         socket->abort();

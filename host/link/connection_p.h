@@ -1,6 +1,7 @@
 #pragma once
 
 #include "link/channel_p.h"
+#include "link/limits.h"
 
 #include <QAbstractSocket>
 #include <QElapsedTimer>
@@ -26,7 +27,7 @@ class Connection : public QObject
     Q_OBJECT
 
 public:
-    Connection(const QString &name, const QUrl &url);
+    Connection(const QString &name, const QUrl &url, const Liveness &liveness);
     ~Connection() override;
 
     /** Before the object goes to its thread; connectToPeer() is the first call on it there. */
@@ -64,6 +65,7 @@ private:
 
     const QString m_name;
     const QUrl m_url;
+    const Liveness m_liveness;
     std::shared_ptr<Channel> m_channel;
     QWebSocket *m_socket = nullptr;
     quint64 m_session = 0; ///< the current one; 0: none

@@ -20,10 +20,15 @@ constexpr qint64 maxUnsentBytes = 3 * maxFrameBytes;
 constexpr qint64 maxUndeliveredBytes = 4 * maxFrameBytes;
 constexpr int maxUndelivered = 65536;
 
-/** A ping goes out every pingInterval; a peer that sent nothing at all for maxSilence is gone. Both
- *  together are below the five seconds in which a dead link has to be noticed. ms. */
-constexpr int pingInterval = 1000;
-constexpr int maxSilence = 3500;
+/** How a client watches over its link: a ping goes out every pingInterval, and a peer that sent
+ *  nothing at all for maxSilence is gone. ms. */
+struct Liveness {
+    int pingInterval;
+    int maxSilence;
+};
+constexpr Liveness usualLiveness {1000, 3500};
+static_assert(usualLiveness.pingInterval + usualLiveness.maxSilence < 5000,
+              "a dead link is noticed within five seconds");
 
 /** Pauses between attempts to connect: they double from the first to the last. ms. */
 constexpr int firstPause = 100;

@@ -11,7 +11,7 @@ TestClient::TestClient(quint16 port)
 
 bool TestClient::waitConnected()
 {
-    return QTest::qWaitFor([this] {
+    return waitFor([this] {
                return socket.state() == QAbstractSocket::ConnectedState
                    || socket.state() == QAbstractSocket::UnconnectedState;
            })
@@ -44,7 +44,18 @@ QJsonObject TestClient::call(const QString &method, const QJsonValue &params)
         }
         return !found.isEmpty();
     };
-    return QTest::qWaitFor(arrived) ? found : QJsonObject();
+    return waitFor(arrived) ? found : QJsonObject();
+}
+
+// Client and simulator share this thread: QTest::qWaitFor() would sleep between any two steps.
+bool TestClient::waitFor(const std::function<bool()> &arrived)
+{
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(5000);
+    while (!arrived() && limit.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return arrived();
 }
 
 void TestClient::read(const QString &text)

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QVector>
 #include <QWebSocket>
+#include <functional>
 
 /** A client that speaks the wire by hand, so that it does not share its mistakes with the codec. */
 class TestClient : public QObject
@@ -30,6 +31,7 @@ public:
     QSignalSpy pongs {&socket, &QWebSocket::pong};
 
 private:
+    static bool waitFor(const std::function<bool()> &arrived);
     void read(const QString &text);
 
     int m_lastId = 0;

@@ -317,6 +317,7 @@ private slots:
     {
         Started started;
         ConnectedClient client(started.controllerPort());
+        started.setHandshakeLimit(100);
         QTcpSocket idle;
         idle.connectToHost("127.0.0.1", started.controllerPort());
         QTRY_COMPARE(idle.state(), QAbstractSocket::ConnectedState);

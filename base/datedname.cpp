@@ -2,8 +2,22 @@
 
 #include "localclock.h"
 
+#include <QStringList>
+
 namespace logbase
 {
+
+namespace
+{
+
+bool isLogDate(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return text.size() == 8 && isNumber && number >= 20000101 && number <= 29991231;
+}
+
+} // namespace
 
 QString today()
 {
@@ -21,6 +35,29 @@ QString datedName(const QString &base, const QString &date, int index, const QSt
     }
     return base + QLatin1Char('_') + date + QLatin1Char('_') + QString::number(index)
         + QLatin1Char('.') + ext;
+}
+
+bool parseDatedName(const QString &baseName, QString &name, QString &date, int &index)
+{
+    QStringList parts = baseName.split(QLatin1Char('_'), Qt::KeepEmptyParts);
+    if (parts.size() < 2) {
+        return false;
+    }
+    index = 0;
+    bool isNumber = false;
+    const int last = parts.constLast().toInt(&isNumber);
+    if (parts.size() > 2 && isNumber && last >= 0 && isLogDate(parts.at(parts.size() - 2))) {
+        index = last;
+        parts.removeLast();
+    }
+    const QString datePart = parts.takeLast();
+    const QString namePart = parts.join(QLatin1Char('_'));
+    if (!isLogDate(datePart) || namePart.isEmpty()) {
+        return false;
+    }
+    name = namePart;
+    date = datePart;
+    return true;
 }
 
 } // namespace logbase

@@ -4,9 +4,16 @@
 #include <consoleline.h>
 #include <datedname.h>
 #include <linebuffer.h>
+#include <retention.h>
 
 namespace ostrel
 {
+
+namespace
+{
+/** Files of one log: about 100 MiB. */
+constexpr int keptFiles = 10;
+} // namespace
 
 class QLog::Private
 {
@@ -78,6 +85,9 @@ void FLog::Private::open(const QString &base, const QString &ext)
             return;
         }
     } while (file.sizeAtOpen() > logbase::LargestAppendable);
+    if (file.sizeAtOpen() == 0) {
+        logbase::keepNewestFiles(base, ext, keptFiles, path);
+    }
 }
 
 void FLog::Private::append()

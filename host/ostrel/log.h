@@ -39,7 +39,8 @@ private:
 /**
  * File stream: the line is appended to "base_yyyyMMdd.ext", or "base_yyyyMMdd_index.ext" with the
  * first index whose file is below 10 MiB, by one write when the stream dies. Missing directories
- * are made. A failure is one warning in the category "default", and the line is lost; the next one
+ * are made. With each new file the oldest ones of the same base go, so that ten are left, about 100
+ * MiB. A failure is one warning in the category "default", and the line is lost; the next one
  * tries again. A stream is used on the thread that made it; any number may append to one file.
  */
 class HOST_EXPORT FLog

@@ -1,22 +1,11 @@
 #include <zeplet/log/pluginlogfiles.h>
 
+#include <datedname.h>
+
 #include <QFileInfo>
-#include <QStringList>
 
 namespace zeplet
 {
-
-namespace
-{
-
-bool isLogDate(const QString &text)
-{
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return text.size() == 8 && isNumber && number >= 20000101 && number <= 29991231;
-}
-
-} // namespace
 
 QDir pluginLogRootDir(const QString &path)
 {
@@ -32,25 +21,7 @@ QDir pluginLogRootDir(const QString &path)
 
 bool extractLogFileMeta(const QString &baseName, QString &name, QString &date, int &index)
 {
-    QStringList parts = baseName.split(QLatin1Char('_'), Qt::KeepEmptyParts);
-    if (parts.size() < 2) {
-        return false;
-    }
-    index = 0;
-    bool isNumber = false;
-    const int last = parts.constLast().toInt(&isNumber);
-    if (parts.size() > 2 && isNumber && last >= 0 && isLogDate(parts.at(parts.size() - 2))) {
-        index = last;
-        parts.removeLast();
-    }
-    const QString datePart = parts.takeLast();
-    const QString namePart = parts.join(QLatin1Char('_'));
-    if (!isLogDate(datePart) || namePart.isEmpty()) {
-        return false;
-    }
-    name = namePart;
-    date = datePart;
-    return true;
+    return logbase::parseDatedName(baseName, name, date, index);
 }
 
 } // namespace zeplet

@@ -25,6 +25,30 @@ private slots:
         QCOMPARE(logfiles::read(file), expected + "\n[a b \n");
     }
 
+    void oldFilesGo()
+    {
+        for (const int age : {100, -100}) { // days; the clock may have run back
+            const QTemporaryDir directory;
+            const QDateTime first = QDateTime::currentDateTime().addDays(-age);
+            QStringList expected {"p.log", "p_20240501.txt", "p_x_20240501.log", "q_20240501.log"};
+            for (const QString &foreign : qAsConst(expected))
+                QVERIFY(logfiles::makeSparse(directory.filePath(foreign), 9, first));
+            for (int i = 1; i <= 15; ++i) {
+                const QString name
+                    = QStringLiteral("p_202405%1.log").arg(i, 2, 10, QLatin1Char('0'));
+                QVERIFY(logfiles::makeSparse(directory.filePath(name), 9, first.addDays(i)));
+                if (i > 6)
+                    expected += name;
+            }
+            expected += "p_" + logfiles::today() + ".log";
+            expected.sort();
+            ostrel::FLog("", "", directory.filePath("p"), "log") << "the line";
+            QCOMPARE(logfiles::below(directory.path()), expected);
+            QCOMPARE(logfiles::read(directory.filePath("p_" + logfiles::today() + ".log")),
+                     QString("the line\n"));
+        }
+    }
+
     void fullFilesAreFollowedByTheNext()
     {
         const std::pair<QVector<qint64>, QString> rows[]

@@ -39,7 +39,8 @@ class ModuleObjectPrivate;
  * content has become different, from the leaves up, and then the node itself in any case. Nodes
  * above are never told.
  *
- * GUI thread only. No operation blocks or throws.
+ * GUI thread only. No operation blocks, or throws anything but what a receiver of changed() threw:
+ * that reaches the caller once all nodes have told their change.
  */
 class HOST_EXPORT ModuleObject : public QObject
 {

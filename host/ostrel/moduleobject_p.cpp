@@ -277,7 +277,20 @@ void ChangeReport::emitChanges(QObject *origin)
         const bool differs
             = watched.before != watched.after || watched.wasNull != watched.object->isNull();
         if (differs || object == m_first)
-            Q_EMIT object->changed(watched.after, watched.before, origin);
+            tell(object, watched, origin);
+    }
+    if (m_thrown)
+        std::rethrow_exception(m_thrown);
+}
+
+// What one receiver throws reaches the caller only after the other nodes have told theirs.
+void ChangeReport::tell(ModuleObject *object, const Watched &watched, QObject *origin)
+{
+    try {
+        Q_EMIT object->changed(watched.after, watched.before, origin);
+    } catch (...) {
+        if (!m_thrown)
+            m_thrown = std::current_exception();
     }
 }
 

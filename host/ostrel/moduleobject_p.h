@@ -4,6 +4,7 @@
 #include "ostrel/node_p.h"
 
 #include <QPointer>
+#include <exception>
 #include <memory>
 #include <vector>
 
@@ -99,8 +100,10 @@ private:
     };
 
     void remember(ModuleObjectPrivate *handle);
+    void tell(ModuleObject *object, const Watched &watched, QObject *origin);
 
     QPointer<ModuleObject> m_first;
+    std::exception_ptr m_thrown;
     std::vector<Watched> m_watched;
 };
 

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <stdexcept>
 
 using ostrel::ModuleObject;
 
@@ -298,6 +299,22 @@ private Q_SLOTS:
             root->importFromJson(nullptr, QJsonObject {{"a", 2}}, true, true, true);
             QVERIFY(!alive);
         }
+    }
+
+    void throwingReceiverDoesNotStopTheOthers()
+    {
+        ModuleObject root;
+        for (const char *name : {"a", "b"})
+            connect(root.r(name), &ModuleObject::changed, this,
+                    [=] { throw std::runtime_error(name); });
+        Journal journal(root, {"c", ""});
+        try {
+            root.fromJsonText(nullptr, R"({"a":1,"b":2,"c":3})");
+            QFAIL("what a receiver throws has to reach the caller");
+        } catch (const std::runtime_error &thrown) {
+            QCOMPARE(thrown.what(), "a");
+        }
+        QCOMPARE(journal.take(), (QStringList {"c: - -> 3", R"(: - -> {"a":1,"b":2,"c":3})"}));
     }
 
     void globalStore()

@@ -70,7 +70,7 @@ public:
     ostrel::ModuleObject *flag;
     Watches watches;
     HubMirror mirror;
-    QHash<QString, ostrel::ModuleObject *> answers; ///< per command, owned by the hub
+    QHash<QString, ostrel::ModuleObject *> answers; ///< per method and command, owned by the hub
 };
 
 Nexo::Private::Private(Nexo *nexo)
@@ -208,12 +208,13 @@ void Nexo::Private::sendSet(const QString &key, const QString &subKey, const QJs
 ostrel::ModuleObject *Nexo::Private::exec(const QLatin1String &method, const QString &key,
                                           const QJsonObject &params)
 {
+    const QString title = method + QLatin1Char(' ') + key;
     const rpc::Answer answer = client.call(method, params, commandLimit());
     if (!answer.isResult()) {
-        client.logFailure(method + QLatin1Char(' ') + key, answer);
+        client.logFailure(title, answer);
         return nullptr;
     }
-    ostrel::ModuleObject *&node = answers[key];
+    ostrel::ModuleObject *&node = answers[title];
     if (!node)
         node = new ostrel::ModuleObject(key, q);
     node->importFromJson(q, answer.value, true, true, false);

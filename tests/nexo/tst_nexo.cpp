@@ -135,6 +135,17 @@ private Q_SLOTS:
         QVERIFY(sent("hub.plugin", R"({"id": "i_1", "command": "c", "value": [1]})"));
     }
 
+    void answersOfDifferentMethodsAreApart()
+    {
+        m_peer->answer("hub.command", 11);
+        m_peer->answer("hub.plugin", QJsonObject {{"data", QJsonArray {"x"}}});
+        ModuleObject *command = m_nexo->execCommand(this, "same");
+        ModuleObject *plugin = m_nexo->execPluginCommand(this, "id", "same", QVariant());
+        QVERIFY(command && plugin);
+        QCOMPARE(command->getInt(0), 11);
+        QCOMPARE(plugin->r("data.#0")->getStr(""), QStringLiteral("x"));
+    }
+
     void waitingCommandEnds()
     {
         m_peer->script("hub.command", [](const rpc::Message &request) {

@@ -71,9 +71,10 @@ bool SettingManager::contains(const QString &key) const
 
 QString SettingManager::getStr(const QString &key, const QString &defaultValue) const
 {
-    const QJsonValue found = value(key);
-    if (found.isString() || found.isDouble() || found.isBool())
-        return found.toVariant().toString();
+    for (const QJsonValue &found : {m_values.value(key), hostDefaults().value(key)}) {
+        if (found.isString() || found.isDouble() || found.isBool())
+            return found.toVariant().toString();
+    }
     return defaultValue;
 }
 

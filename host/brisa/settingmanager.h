@@ -32,7 +32,8 @@ public:
     bool load(const QString &path);
 
     bool contains(const QString &key) const;
-    /** A text; a number or a bool in its JSON spelling. Where the setting is missing: the host's
+    /** A text; a number or a bool in its JSON spelling. Where the setting is missing
+     * or anything else: the host's
      * own default if it has one, else defaultValue. */
     QString getStr(const QString &key, const QString &defaultValue) const;
     /** As getStr(); a text that spells a number counts. Anything else gives the default. */

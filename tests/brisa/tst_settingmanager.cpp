@@ -39,6 +39,8 @@ private Q_SLOTS:
             {file, "x", "default", -7},
             {file, "on", "true", -7},
             {R"({"server.port": "many"})", "server.port", "many", 9011},
+            {R"({"server.port": null})", "server.port", "9011", 9011},
+            {R"({"server.port": [1]})", "server.port", "9011", 9011},
         };
         for (const auto &[content, key, text, number] : rows) {
             init();

@@ -204,8 +204,10 @@ void ControllerManager::Private::notified(const QString &method, const QJsonObje
         client.logUnknown(method);
         return;
     }
-    if (path == statePath)
+    if (path == statePath && value.isObject())
         mirrorState(value.toObject(), q);
+    else if (path == statePath)
+        client.logUnknown(path + QStringLiteral(" that is no object"));
     if (ostrel::ModuleObject *node = notifications.value(path))
         node->importFromJson(q, value, true, true, true);
 }

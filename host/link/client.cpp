@@ -34,6 +34,7 @@ class Client::Private
 public:
     bool prepare(const QString &method, const QJsonValue &argument, int timeout, Outgoing *outgoing,
                  QString *problem);
+    bool post(const QString &method, Outgoing &&outgoing);
     void endCallbacks();
     void process(Client *q, Incoming &incoming);
     void finish(qint64 id, const Answer &answer);
@@ -112,11 +113,8 @@ bool Client::send(const QString &method, const QJsonValue &argument, int timeout
     if (!d->prepare(method, argument, timeout, &outgoing, &problem))
         return false;
     const qint64 id = outgoing.id;
-    if (!d->channel->send(std::move(outgoing))) {
-        qCWarning(linkLog).noquote()
-            << d->name + QStringLiteral(": %1 not sent: too much waits to be sent").arg(method);
+    if (!d->post(method, std::move(outgoing)))
         return false;
-    }
     d->callbacks.insert(id, callback);
     return true;
 }
@@ -130,7 +128,7 @@ Answer Client::call(const QString &method, const QJsonValue &argument, int timeo
     const auto waiter = std::make_shared<Waiter>();
     const QDeadlineTimer deadline = outgoing.deadline;
     outgoing.waiter = waiter;
-    if (!d->channel->send(std::move(outgoing)))
+    if (!d->post(method, std::move(outgoing)))
         return notSent(QStringLiteral("too much waits to be sent"));
     return waiter->wait(static_cast<int>(deadline.remainingTime()));
 }
@@ -209,6 +207,15 @@ bool Client::Private::prepare(const QString &method, const QJsonValue &argument,
     outgoing->bytes = frame.size();
     outgoing->deadline = QDeadlineTimer(timeout > 0 ? timeout : defaultTimeout, Qt::PreciseTimer);
     return true;
+}
+
+bool Client::Private::post(const QString &method, Outgoing &&outgoing)
+{
+    if (channel->send(std::move(outgoing)))
+        return true;
+    qCWarning(linkLog).noquote() << name
+            + QStringLiteral(": %1 not sent: too much waits to be sent").arg(method);
+    return false;
 }
 
 void Client::Private::endCallbacks()

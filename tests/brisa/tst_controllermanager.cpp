@@ -311,6 +311,14 @@ private Q_SLOTS:
         passNotifications();
     }
 
+    void stateThatIsNoObjectIsLogged()
+    {
+        announce(
+            "^controller: a notification without meaning here: system.state that is no object$");
+        m_peer->notify("notify", QJsonObject {{"path", "system.state"}, {"value", "on"}});
+        passNotifications();
+    }
+
     void withoutLink()
     {
         ControllerManager idle;

@@ -7,7 +7,7 @@ namespace rpc
 {
 
 /** One text frame, either way, in bytes of UTF-8. */
-constexpr qint64 maxFrameBytes = 16 * 1024 * 1024;
+constexpr qint64 maxFrameBytes = 16LL * 1024 * 1024;
 
 /** Requests of one panel that wait for their answers at one endpoint. */
 constexpr int maxPending = 1024;

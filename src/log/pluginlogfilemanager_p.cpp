@@ -19,7 +19,7 @@ namespace zeplet
 namespace
 {
 
-constexpr qint64 MiB = 1024 * 1024;
+constexpr qint64 MiB = 1024LL * 1024;
 constexpr qint64 TotalBudget = 200 * MiB;
 constexpr qint64 RecoveryTarget = 190 * MiB;
 

@@ -42,7 +42,7 @@ void PluginRegister::regist(const QString &name, Factory factory)
 {
     if (m_factories.contains(name))
         return;
-    m_factories.insert(name, std::move(factory));
+    m_factories.insert(name, factory);
     registerModule(name);
     registerPlugin(name);
 }

@@ -239,7 +239,6 @@ private Q_SLOTS:
         delete instantiatedCenterWidget();
         delete instantiatedStatusBar(nullptr);
     }
-
 };
 
 QTEST_MAIN(TestContainers)

@@ -2,12 +2,15 @@
 
 #include <zeplet/export.h>
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
+#include <QVector>
 #include <functional>
 
 namespace zeplet
@@ -97,6 +100,165 @@ public:
     bool disconnectNetworkStatus(bool onConnect, const QString &subscriber,
                                  const QString &subscriptionId);
 
+    // Robot status and modes. Readers look at the host's data, which follows the controller; a
+    // missing value gives the default that is named.
+
+    /** The controller's identity; empty when none is known. */
+    QString getRobotID();
+    /** Whether the motors are powered. */
+    bool getRobotEleStatus();
+    /** Whether the robot is in manual operation; an unknown mode counts as manual. */
+    bool getRobotOperateIsHand();
+    /** The run state, as the controller names it. */
+    QString getRobotPhyStatus();
+    /** The user's access level; 0 when unknown. */
+    int getUserOperateLevel();
+    /** The controller's address as the host is set. */
+    QString getRobotIP();
+    QString getRobotType();
+    /** The number of the robot model's template, out of the last answer to
+     *  "system.controller.get_params"; 0 before. Nothing is asked. */
+    int getRobotModelType();
+    /** Switch the motors or the operating mode. blocking: waits up to 1600 ms, and true says that
+     *  an answer came; otherwise true says that the request was accepted. */
+    bool changeRobotPowerStatue(bool on, bool blocking);
+    bool changeRobotModelStatue(bool manual, bool blocking);
+
+    // Program run control: requests to the host, which starts and stops the program.
+
+    /** Ask the host, from the event loop, to start or stop the program; true when that is queued.
+     *  False, with an error line, without a link. */
+    bool startRunning();
+    bool stopRunning();
+    /** With a filter on, an operator's start (or stop) waits until a plugin calls startRunning()
+     *  (or stopRunning()). Always true. */
+    bool startRunningFilter(bool on);
+    bool stopRunningFilter(bool on);
+
+    // Projects: directories below the host's workspace. Names are trimmed first; a name that is not
+    // one plain path component is invalid.
+
+    /** The open project as "robot/name"; empty when none is. */
+    QString getCurProject();
+    /** The projects of this robot, in the order of the file system. */
+    QStringList getProjectList();
+    /** Makes a project, and opens it if asked to. 0 done, -1 invalid name, -2 exists already, -3
+     *  could not be made. Blocks for the disk. */
+    int createProject(const QString &name, const QString &description, bool open);
+    /** Opens a project. 0 done, -1 invalid name, -2 not found. */
+    int changeProject(const QString &name);
+    /** Removes a project with all that is in it, and its task. 0 done, -1 invalid name, -2 not
+     *  found, -3 could not be removed. Blocks for the service hub, the disk and, for the autoload
+     *  project, up to 1600 ms for the controller. */
+    int removeProject(const QString &name);
+
+    // IO signals and registers. Signal types: 1 "DI", 2 "DO", 3 "GI", 4 "GO", 5 "AI", 6 "AO".
+
+    /** A signal's value as a bool, asked from the controller; false on every failure, with a log
+     *  line. Blocks up to 1600 ms. */
+    bool getIOValue(const QString &name);
+    /** All signals with their values, asked likewise; empty on failure. */
+    QHash<QString, QVariant> getIOHash();
+    /** The names of all signals of a type, in the order of the catalogue. */
+    QStringList getIOByType(int type);
+    QStringList getIOByType(const QString &typeName);
+    /** Sends a value without waiting. Always 0: system IO, and digital inputs outside simulation,
+     *  are refused through the operator's banner. An unknown type name is sent unchecked. */
+    int setIOValue(const QString &name, int type, bool value);
+    int setIOValue(const QString &name, const QString &typeName, bool value);
+    /** The registers as the host mirrors them: an array of {"name", "value": [text, ...]}. */
+    QJsonValue getRegisterValue();
+    QHash<QString, QStringList> getRegisterHash();
+
+    // Tools, work objects, speeds and zones, as the host mirrors them: system entries, then the
+    // project's, then global ones, with duplicates.
+
+    QString getCurTool(); ///< "tool0" where none is selected
+    QString getCurWobj(); ///< "wobj0" where none is selected
+    QStringList getToolList();
+    QStringList getWobjList();
+    QStringList getSpeedList();
+    QStringList getZoneList();
+
+    // Persistent variables, for controllers of the versions 2.3, 3.0, 3.1 and 3.2; with others these
+    // give a log line and -240 or nothing.
+
+    /** Selects the variables to be monitored, in place of those before. 0 sent, -240. */
+    int registPERSVars(const QVector<QString> &names);
+    /** 0 sent, -1 sizes differ, -240. */
+    int setValuesOfPERSVars(const QVector<QString> &names, const QVector<QVariant> &values);
+    /** One text per name, empty where no value came. Blocks until the service hub answers. */
+    QVector<QString> getValuesOfPERSVars(const QVector<QString> &names);
+    QVector<QVariant> getRegistedPERSVars();
+
+    // Points of the open project. An element index has the form [i][j][k]; "" is [0][0][0], missing
+    // levels are 0. Millimetres and degrees.
+
+    QStringList getPointNameList();
+    /** The element indexes of a point; empty if there is no such point. */
+    QStringList getPointValueIndexList(const QString &name);
+    /** The three declared dimensions, 0 for unused ones; empty if there is no such point. */
+    QVector<int> getPointDimensions(const QString &name);
+    /** The pose x, y, z, a, b, c of an element; empty, with an error line, where there is none. */
+    QVector<double> getPointDataByName(const QString &name, const QString &index);
+    /** The seven joint values of an element; empty, with an error line, where there are none. */
+    QVector<double> getPointJointDataByName(const QString &name, const QString &index);
+    /** The whole record of exactly that name; empty if there is none. */
+    QJsonObject getPointObjDataByName(const QString &name);
+    /** The robot's position as the controller reports it for a tool and a work object, by default
+     *  the selected ones. Blocks up to 1600 ms; null where no answer came. */
+    QJsonValue getCurrentPointData(const QString &tool, const QString &wobj);
+    /** Whether two names are the same, to the letter. */
+    bool checkPointSame(const QString &a, const QString &b);
+
+    // Editing points. Each edit changes the host's data, tells the controller, writes point.json and
+    // pushes it, in this order; true when all of it was done. Nothing is rolled back. Names are
+    // found whatever their case. Blocks for the controller, the disk and rsync (up to 30 s).
+
+    /** Adds a point with one empty element; false, too, if the name is taken. */
+    bool createPoint(const QString &name, bool joint, bool persistent);
+    /** Teaches the robot's position: into the element of an array point, else into a new point that
+     *  takes the place of one of that name and moves to the end. */
+    bool addCurrentPoint(const QString &name, bool joint, const QString &tool, const QString &wobj,
+                         const QString &index);
+    /** Writes x, y, z, a, b, c into an element. */
+    bool setPointCartData(const QString &name, const QVector<double> &pose, const QString &index);
+    /** Writes up to seven joint values; missing ones become 0. */
+    bool setPointJointData(const QString &name, const QVector<double> &joints,
+                           const QString &index);
+    bool setPointElementJson(const QString &name, const QString &index,
+                             const QJsonObject &element);
+    /** Makes sure that an element exists: a copy of the first one. */
+    bool ensurePointElement(const QString &name, const QString &index);
+    /** Deletes a point, if the controller agrees. */
+    bool removePoint(const QString &name);
+    /** Deletes an element; with the last one, the point. */
+    bool removePointElement(const QString &name, const QString &index);
+
+    // Motion to the first element of a point, taken as a Cartesian pose.
+
+    /** Sends the robot to a point at speed mm/s. result: 0 sent, -1 no such point or element, -2
+     *  the arm configuration is missing, which useConf and joint motion need. What goes wrong on
+     *  the way is told on the hub key "move.last_error_with_setting". Blocks for one command. */
+    void moveToStart(int &result, const QString &name, int speed, bool useConf, bool joint);
+    void moveToStart(int &result, const QString &name, int speed, bool joint);
+    void moveToStop();
+    /** 1 for equal names, 0 where the path is allowed, -2 where it is not. Blocks for the hub. */
+    int checkPointMoveTo(const QString &from, const QString &to);
+
+    // Program variables of the open project, found by their exact name. Each change goes to the
+    // host's data, the controller, var.json and its copy there; what the controller refuses is
+    // undone. Blocks for the service hub, the disk and rsync (up to 30 s).
+
+    QJsonObject getVarObjDataByName(const QString &name);
+    /** The names of the variables of a type; of all with an empty one. */
+    QStringList getVarDataList(const QString &type);
+    bool addVarData(const QString &name, const QVariant &value, bool persistent);
+    bool updateVarData(const QString &name, const QVariant &value);
+    /** Deletes those of the named variables that are no connections; false if there are none. */
+    bool delVarData(const QStringList &names);
+    bool delVarData(const QString &name);
+
 Q_SIGNALS:
     /** Controller and service hub are both connected again. */
     void sigNetworkConnect();
@@ -111,5 +273,9 @@ private:
 /** The process-wide facade; made on the first call, which is safe from any thread but belongs on
  *  the GUI thread. It lives to the end of the process. */
 ZEPLET_EXPORT InterfaceManager *zepletInterface();
+
+/** Whether the controller's version begins with this text, letter by letter: "2.1" fits "2.10.3",
+ *  and an empty text fits all. GUI thread. */
+ZEPLET_EXPORT bool checkBrisaVersion(const QString &version);
 
 } // namespace zeplet

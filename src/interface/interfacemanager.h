@@ -180,8 +180,8 @@ public:
     QStringList getSpeedList();
     QStringList getZoneList();
 
-    // Persistent variables, for controllers of the versions 2.3, 3.0, 3.1 and 3.2; with others these
-    // give a log line and -240 or nothing.
+    // Persistent variables, for controllers of the versions 2.3, 3.0, 3.1 and 3.2; with others
+    // these give a log line and -240 or nothing.
 
     /** Selects the variables to be monitored, in place of those before. 0 sent, -240. */
     int registPERSVars(const QVector<QString> &names);
@@ -211,8 +211,8 @@ public:
     /** Whether two names are the same, to the letter. */
     bool checkPointSame(const QString &a, const QString &b);
 
-    // Editing points. Each edit changes the host's data, tells the controller, writes point.json and
-    // pushes it, in this order; true when all of it was done. Nothing is rolled back. Names are
+    // Editing points. Each edit changes the host's data, tells the controller, writes point.json
+    // and pushes it, in this order; true when all of it was done. Nothing is rolled back. Names are
     // found whatever their case. Blocks for the controller, the disk and rsync (up to 30 s).
 
     /** Adds a point with one empty element; false, too, if the name is taken. */
@@ -226,8 +226,7 @@ public:
     /** Writes up to seven joint values; missing ones become 0. */
     bool setPointJointData(const QString &name, const QVector<double> &joints,
                            const QString &index);
-    bool setPointElementJson(const QString &name, const QString &index,
-                             const QJsonObject &element);
+    bool setPointElementJson(const QString &name, const QString &index, const QJsonObject &element);
     /** Makes sure that an element exists: a copy of the first one. */
     bool ensurePointElement(const QString &name, const QString &index);
     /** Deletes a point, if the controller agrees. */

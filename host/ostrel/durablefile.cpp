@@ -101,4 +101,20 @@ bool writeDurably(const QString &path, const QByteArray &content, QString *error
     return syncDirectory(directory, error);
 }
 
+bool copyDurably(const QString &from, const QString &to, QString *error)
+{
+    QFile source(from);
+    if (!source.copy(to)) {
+        *error = QStringLiteral("can't copy %1 to %2: %3").arg(from, to, source.errorString());
+        return false;
+    }
+    const int handle = ::open(QFile::encodeName(to).constData(), O_RDONLY | O_CLOEXEC);
+    const bool synced = handle >= 0 && ::fsync(handle) == 0;
+    if (!synced)
+        *error = systemError("can't sync", to);
+    if (handle >= 0)
+        ::close(handle);
+    return synced && syncDirectory(QFileInfo(to).path(), error);
+}
+
 } // namespace ostrel

@@ -16,4 +16,8 @@ namespace ostrel
  */
 bool writeDurably(const QString &path, const QByteArray &content, QString *error);
 
+/** Copies a file to a name that nothing has yet, whole or not at all, and returns when the disk has
+ *  it; on failure false with the reason in error. Blocks for the disk. */
+bool copyDurably(const QString &from, const QString &to, QString *error);
+
 } // namespace ostrel

@@ -3,6 +3,7 @@
 #include "ostrel/durablefile_p.h"
 #include "ostrel/jsonexchange_p.h"
 #include "ostrel/jsontext_p.h"
+#include "ostrel/keptfiles_p.h"
 #include "ostrel/loglines_p.h"
 
 namespace ostrel
@@ -23,7 +24,7 @@ bool ModuleManager::writeToJson(const QString &path, const QJsonValue &value, bo
     if (!fromJson(node, value, true, true))
         return refuse(path, QStringLiteral("the value is undefined or nested too deep"));
     QString error;
-    if (!writeDurably(path, writeJsonText(node, indented), &error))
+    if (!keepCopy(path, &error) || !writeDurably(path, writeJsonText(node, indented), &error))
         return refuse(path, error);
     return true;
 }

@@ -16,7 +16,8 @@ public:
      * Writes value as JSON text in UTF-8 to path, old or new and never half: missing parents are
      * made, file and directory are synced, and the file's modification time moves on by at least a
      * whole second against the file it replaces, also where the clock has run back. Only a plain
-     * file is replaced, no directory, symbolic link or device. indented: one member a line.
+     * file is replaced, no directory, symbolic link or device. A file that the host has refused as
+     * damaged is copied beside itself first. indented: one member a line.
      *
      * Returns false, with an error line in the host's log, where value is undefined, nested deeper
      * than 1024 levels or can't be written; the old file is still there then, unless only the last

@@ -15,3 +15,4 @@
 #include <zeplet/plugin/pluginbase.h>
 #include <zeplet/plugin/pluginregister.h>
 #include <zeplet/plugin/uiservices.h>
+#include <zeplet/sync/synctool.h>

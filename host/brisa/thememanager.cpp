@@ -160,6 +160,12 @@ QFont ThemeManager::font(TextSize size, bool bold)
     return font;
 }
 
+QFont ThemeManager::font(const QString &name)
+{
+    Q_UNUSED(name)
+    return font(TextSize::Body);
+}
+
 QString ThemeManager::styleSheet() const
 {
     return m_styleSheet;

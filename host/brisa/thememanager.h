@@ -73,6 +73,8 @@ public:
     QColor levelBackground(const QString &level) const;
     QPalette palette() const;
     static QFont font(TextSize size, bool bold = false);
+    /** A font by its name: "default" is that of running text, and so is any unknown one. */
+    static QFont font(const QString &name);
 
     /**
      * The host's global style sheet, for pages. Widgets choose a variant by dynamic properties: a

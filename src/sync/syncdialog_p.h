@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProgressDialog>
+
+namespace zeplet
+{
+
+/** Says that files are being copied. It has no buttons: who shows it closes it. */
+class SyncDialog : public QProgressDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SyncDialog(QWidget *parent);
+
+    /** Shows the dialog modally until finish(), but not longer than limitMs. */
+    void execFor(int limitMs);
+    /** Closes the dialog if it is visible. */
+    void finish();
+};
+
+} // namespace zeplet

@@ -213,7 +213,7 @@ ControlLine parseFault(Words &words)
         fault.ms = positive(words.next(), fault.ms, Faults::kMaxMilliseconds);
     if (fault.times < 0 || fault.ms < 0 || !words.atEnd())
         return usage(QStringLiteral("fault NAME [COMMAND|* [TIMES|* [MS]]] (MS: late_answer)"
-                                    " | controller_down|hub_down|silent [MS] | clear"));
+                                    " | controller_down|hub_down|files_down|silent [MS] | clear"));
     return step([fault](Simulator &simulator) { simulator.faults().add(fault); });
 }
 
@@ -225,6 +225,18 @@ ControlLine parseDrop(Words &words)
     if (what == QLatin1String("hub"))
         return step([](Simulator &simulator) { simulator.dropHubClients(); });
     return usage(QStringLiteral("drop controller|hub"));
+}
+
+ControlLine parseFiles(Words &words)
+{
+    const QString what = words.rest();
+    if (what == QLatin1String("down"))
+        return step([](Simulator &simulator) {
+            simulator.faults().add(Faults::withDefaults(FaultKind::FilesDown));
+        });
+    if (what == QLatin1String("up"))
+        return step([](Simulator &simulator) { simulator.faults().end(FaultKind::FilesDown); });
+    return usage(QStringLiteral("files down|up"));
 }
 
 ControlLine parseCount(Words &words)
@@ -257,11 +269,12 @@ ControlLine parseState(Words &words)
 ControlLine ControlLine::parse(const QString &line)
 {
     static const std::map<QString, Parser> parsers {
-        {QStringLiteral("answer"), parseAnswer}, {QStringLiteral("count"), parseCount},
-        {QStringLiteral("drop"), parseDrop},     {QStringLiteral("fault"), parseFault},
-        {QStringLiteral("hub"), parseHub},       {QStringLiteral("last"), parseLast},
-        {QStringLiteral("notify"), parseNotify}, {QStringLiteral("program"), parseProgram},
-        {QStringLiteral("set"), parseSet},       {QStringLiteral("state"), parseState},
+        {QStringLiteral("answer"), parseAnswer},   {QStringLiteral("count"), parseCount},
+        {QStringLiteral("drop"), parseDrop},       {QStringLiteral("fault"), parseFault},
+        {QStringLiteral("files"), parseFiles},     {QStringLiteral("hub"), parseHub},
+        {QStringLiteral("last"), parseLast},       {QStringLiteral("notify"), parseNotify},
+        {QStringLiteral("program"), parseProgram}, {QStringLiteral("set"), parseSet},
+        {QStringLiteral("state"), parseState},
     };
     Words words(line);
     const QString name = words.next();

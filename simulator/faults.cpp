@@ -21,6 +21,7 @@ constexpr std::array kNames {
     Entry {FaultKind::MalformedFrame, "malformed_frame"},
     Entry {FaultKind::ControllerDown, "controller_down"},
     Entry {FaultKind::HubDown, "hub_down"},
+    Entry {FaultKind::FilesDown, "files_down"},
     Entry {FaultKind::Silent, "silent"},
 };
 
@@ -70,7 +71,7 @@ QString Faults::unknownName(const QString &name)
 bool Faults::isCondition(FaultKind kind)
 {
     return kind == FaultKind::ControllerDown || kind == FaultKind::HubDown
-        || kind == FaultKind::Silent;
+        || kind == FaultKind::FilesDown || kind == FaultKind::Silent;
 }
 
 Fault Faults::withDefaults(FaultKind kind)
@@ -106,6 +107,12 @@ void Faults::endAfter(FaultKind condition, int ms)
     });
     timer->start(ms);
     m_timers[condition] = std::move(timer);
+}
+
+void Faults::end(FaultKind condition)
+{
+    removeCondition(condition);
+    emit conditionsChanged();
 }
 
 void Faults::clear()

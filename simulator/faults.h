@@ -26,6 +26,7 @@ enum class FaultKind {
 
     ControllerDown,
     HubDown,
+    FilesDown,
     Silent,
 };
 
@@ -64,6 +65,8 @@ public:
 
     /** Adds a fault; a condition that is in force already gets the new one's duration. */
     void add(const Fault &fault);
+    /** Ends a condition before its time. */
+    void end(FaultKind condition);
     void clear();
     /** The fault that meets a request known under these names, in the order in which they were
      *  added. Uses up one of its times. */

@@ -43,9 +43,10 @@ int run(const simulator::Options &options, const simulator::Scenario &scenario)
         Console::printError(error);
         return kFailed;
     }
-    Console::print(QStringLiteral("ready controller=%1 hub=%2")
+    Console::print(QStringLiteral("ready controller=%1 hub=%2 rsync=%3")
                        .arg(simulated.controllerPort())
                        .arg(simulated.hubPort())
+                       .arg(simulated.rsyncPort())
                        .toUtf8());
     return QCoreApplication::exec();
 }
@@ -67,11 +68,13 @@ int main(int argc, char *argv[])
         Console::printError(error + QStringLiteral(" (--help lists the options)"));
         return kWrongUsage;
     }
-    if (options->scenario.isEmpty())
-        return run(*options, {});
-    const auto scenario = simulator::Scenario::fromFile(options->scenario, &error);
-    if (scenario)
-        return run(*options, *scenario);
-    Console::printError(error);
-    return kFailed;
+    auto scenario = options->scenario.isEmpty()
+        ? simulator::Scenario()
+        : simulator::Scenario::fromFile(options->scenario, &error);
+    if (!scenario) {
+        Console::printError(error);
+        return kFailed;
+    }
+    scenario->files = options->files;
+    return run(*options, *scenario);
 }

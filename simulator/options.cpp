@@ -28,6 +28,14 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
     const QCommandLineOption scenario(QStringLiteral("scenario"),
                                       QStringLiteral("Start with the state of this JSON file."),
                                       QStringLiteral("file"));
+    const QCommandLineOption files(
+        QStringLiteral("files"),
+        QStringLiteral("Serve the controller's files, which are in this directory, with rsync."),
+        QStringLiteral("directory"));
+    const QCommandLineOption rsyncPort(
+        QStringLiteral("rsync-port"),
+        QStringLiteral("Port of the rsync daemon (default: 873, or any free one)."),
+        QStringLiteral("port"));
     const QCommandLineOption trace(
         QStringLiteral("trace"),
         QStringLiteral("Print each frame that arrives to standard error."));
@@ -37,11 +45,12 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Plays a robot controller with its service hub on loopback.\n"
-        "When both listen it prints \"ready controller=PORT hub=PORT\"; then it takes control\n"
+        "When all listen it prints \"ready controller=PORT hub=PORT rsync=PORT\" (rsync=0 without\n"
+        "files); then it takes control "
         "commands from standard input, one per line, and answers each with a line of JSON."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({port, hubPort, scenario, trace, untilEof});
+    parser.addOptions({port, hubPort, scenario, files, rsyncPort, trace, untilEof});
     if (!parser.parse(arguments)) {
         *error = parser.errorText();
         return std::nullopt;
@@ -59,8 +68,15 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
     const auto otherPort = portFrom(parser.value(hubPort), error);
     if (!controllerPort || !otherPort)
         return std::nullopt;
-    return Options {*controllerPort, *otherPort, parser.value(scenario), parser.isSet(trace),
-                    parser.isSet(untilEof)};
+    FileOptions fileOptions {parser.value(files), std::nullopt};
+    if (parser.isSet(rsyncPort) && !(fileOptions.port = portFrom(parser.value(rsyncPort), error)))
+        return std::nullopt;
+    if (parser.isSet(rsyncPort) && fileOptions.directory.isEmpty()) {
+        *error = QStringLiteral("--rsync-port goes with --files");
+        return std::nullopt;
+    }
+    return Options {*controllerPort, *otherPort,          parser.value(scenario),
+                    fileOptions,     parser.isSet(trace), parser.isSet(untilEof)};
 }
 
 } // namespace simulator

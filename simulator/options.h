@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fileserver.h"
+
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -12,6 +14,7 @@ struct Options {
     quint16 port = 9011;
     quint16 hubPort = 9012;
     QString scenario; ///< a file; empty: the defaults
+    FileOptions files;
     bool trace = false;
     bool untilEof = false;
 

@@ -2,6 +2,7 @@
 
 #include "answers.h"
 #include "faults.h"
+#include "fileserver.h"
 #include "robotstate.h"
 
 #include <QJsonObject>
@@ -26,6 +27,7 @@ struct Scenario {
     Answers answers;
     QVector<Fault> faults;
     QVector<TimelineStep> timeline;
+    FileOptions files; ///< no member of a scenario file
 
     /** Nothing where the file can't be read or is no scenario; then `error` names the file, the
      *  path of the member and what is wrong with it. */

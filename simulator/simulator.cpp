@@ -20,6 +20,7 @@ public:
         , hub(scenario.hub)
         , answers(scenario.answers)
         , timeline(scenario.timeline)
+        , files(scenario.files)
     {
         for (const Fault &fault : scenario.faults)
             faults.add(fault);
@@ -31,6 +32,7 @@ public:
     Answers answers;
     RequestLog requests;
     Timeline timeline;
+    FileServer files;
 
     CommandRegistry controllerRegistry {answers.controller};
     StateCommands stateCommands {controllerRegistry, robot};
@@ -59,6 +61,7 @@ Simulator::Simulator(const Scenario &scenario, QObject *parent)
         if (!reply.isDone())
             emit problem(QStringLiteral("timeline: %1: %2").arg(line, reply.reason));
     });
+    connect(&d->files, &FileServer::problem, this, &Simulator::problem);
     for (Endpoint *endpoint : {&d->controllerEnd, &d->hubEnd}) {
         connect(endpoint, &Endpoint::received, this, &Simulator::received);
         connect(endpoint, &Endpoint::problem, this, &Simulator::problem);
@@ -74,7 +77,8 @@ bool Simulator::start(quint16 controllerPort, quint16 hubPort, QString *error)
 {
     if (d->started)
         return true;
-    d->started = d->controllerEnd.open(controllerPort, error) && d->hubEnd.open(hubPort, error);
+    d->started = d->controllerEnd.open(controllerPort, error) && d->hubEnd.open(hubPort, error)
+        && d->files.open(error);
     if (!d->started) {
         stop();
         return false;
@@ -89,23 +93,28 @@ void Simulator::stop()
     d->started = false;
     d->controllerEnd.close();
     d->hubEnd.close();
+    d->files.close();
 }
 
 void Simulator::applyConditions()
 {
     const bool silent = d->faults.isActive(FaultKind::Silent);
-    const auto apply = [&](Endpoint &endpoint, FaultKind down) {
-        endpoint.setSilent(silent);
+    const auto apply = [&](auto &server, FaultKind down, auto open) {
         if (!d->started || d->faults.isActive(down)) {
-            endpoint.close();
+            server.close();
             return;
         }
         QString error;
-        if (!endpoint.open(0, &error))
+        if (!open(&error))
             emit problem(error);
     };
-    apply(d->controllerEnd, FaultKind::ControllerDown);
-    apply(d->hubEnd, FaultKind::HubDown);
+    for (Endpoint *endpoint : {&d->controllerEnd, &d->hubEnd})
+        endpoint->setSilent(silent);
+    apply(d->controllerEnd, FaultKind::ControllerDown,
+          [this](QString *error) { return d->controllerEnd.open(0, error); });
+    apply(d->hubEnd, FaultKind::HubDown,
+          [this](QString *error) { return d->hubEnd.open(0, error); });
+    apply(d->files, FaultKind::FilesDown, [this](QString *error) { return d->files.open(error); });
 }
 
 quint16 Simulator::controllerPort() const
@@ -116,6 +125,11 @@ quint16 Simulator::controllerPort() const
 quint16 Simulator::hubPort() const
 {
     return d->hubEnd.port();
+}
+
+quint16 Simulator::rsyncPort() const
+{
+    return d->files.port();
 }
 
 RobotState &Simulator::robot()
@@ -180,6 +194,9 @@ QJsonObject Simulator::state() const
     return {{QStringLiteral("robot"), d->robot.toJson()},
             {QStringLiteral("controller"), ofEnd(d->controllerEnd)},
             {QStringLiteral("hub"), ofEnd(d->hubEnd)},
+            {QStringLiteral("files"),
+             QJsonObject {{QStringLiteral("port"), d->files.port()},
+                          {QStringLiteral("up"), d->files.isOpen()}}},
             {QStringLiteral("watches"), QJsonArray::fromStringList(d->hubEnd.watches())},
             {QStringLiteral("faults"), faults}};
 }

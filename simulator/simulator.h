@@ -2,6 +2,7 @@
 
 #include "answers.h"
 #include "faults.h"
+#include "fileserver.h"
 #include "hubdata.h"
 #include "reply.h"
 #include "requestlog.h"
@@ -17,7 +18,8 @@ namespace simulator
 /**
  * A controller with its service hub, played on two WebSocket servers on loopback. State and faults
  * outlive clients and servers: stop() and start() leave them as they are. All members belong to the
- * thread on which the simulator was made; none blocks.
+ * thread on which the simulator was made; none blocks, but that one with files waits until its
+ * rsync daemon has started or ended (some milliseconds, at most seconds).
  */
 class Simulator : public QObject
 {
@@ -27,14 +29,17 @@ public:
     explicit Simulator(const Scenario &scenario = {}, QObject *parent = nullptr);
     ~Simulator() override;
 
-    /** Opens both servers; the first call also starts the scenario's timeline. Port 0: the one of
-     *  the former start, or else any free one. False with the reason in `error`; then neither
-     *  server is open. An endpoint that a fault keeps down has a port, but refuses connections. */
+    /** Opens both servers, and the files' one; the first call also starts the scenario's timeline.
+     * Port 0: the one of the former start, or else any free one. False with the reason in `error`;
+     * then no server is open. An endpoint that a fault keeps down has a port, but refuses
+     * connections. */
     bool start(quint16 controllerPort, quint16 hubPort, QString *error);
-    /** Drops all clients and closes both servers, which keep their ports. */
+    /** Drops all clients and closes the servers, which keep their ports. */
     void stop();
     quint16 controllerPort() const;
     quint16 hubPort() const;
+    /** The port of the rsync daemon; 0 without files. */
+    quint16 rsyncPort() const;
 
     RobotState &robot();
     HubData &hub();

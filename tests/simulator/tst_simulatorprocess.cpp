@@ -25,7 +25,8 @@ public:
 
     bool ready()
     {
-        static const QRegularExpression pattern("^ready controller=(\\d+) hub=(\\d+)$");
+        static const QRegularExpression pattern(
+            "^ready controller=(\\d+) hub=(\\d+) rsync=(\\d+)$");
         const auto match = pattern.match(line());
         controllerPort = match.captured(1).toUShort();
         hubPort = match.captured(2).toUShort();

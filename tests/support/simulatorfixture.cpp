@@ -34,6 +34,11 @@ QUrl SimulatorFixture::controllerUrl() const
     return urlOf(m_controllerPort);
 }
 
+quint16 SimulatorFixture::rsyncPort()
+{
+    return call([](simulator::Simulator &s) { return s.rsyncPort(); });
+}
+
 QUrl SimulatorFixture::hubUrl() const
 {
     return urlOf(m_hubPort);

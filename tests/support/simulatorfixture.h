@@ -19,6 +19,8 @@ public:
 
     quint16 controllerPort() const { return m_controllerPort; }
     quint16 hubPort() const { return m_hubPort; }
+    /** The port of the scenario's files; 0 where it has none. */
+    quint16 rsyncPort();
     QUrl controllerUrl() const;
     QUrl hubUrl() const;
 

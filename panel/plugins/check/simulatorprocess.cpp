@@ -26,6 +26,10 @@ void SimulatorProcess::start()
     const QString scenario = qEnvironmentVariable("ZEPLET_SCENARIO");
     if (!scenario.isEmpty())
         arguments << QStringLiteral("--scenario") << scenario;
+    const QString files = qEnvironmentVariable("ZEPLET_FILES");
+    if (!files.isEmpty())
+        arguments << QStringLiteral("--files") << files << QStringLiteral("--rsync-port")
+                  << qEnvironmentVariable("ZEPLET_RSYNC_PORT");
     m_ready = false;
     m_process.start(qEnvironmentVariable("ZEPLET_SIMULATOR"), arguments);
 }

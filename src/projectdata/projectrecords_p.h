@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+namespace ostrel
+{
+class ModuleObject;
+}
+
+/** What points and variables have in common. kind is "point" or "var". */
+namespace zeplet
+{
+
+/** "tavik.project.<kind>": the list of records with the template beside it. */
+ostrel::ModuleObject *recordTree(const QString &kind);
+/** The list of records of the open project, in order of creation. */
+ostrel::ModuleObject *recordList(const QString &kind);
+
+/** A record of its own, a copy of the template. */
+std::unique_ptr<ostrel::ModuleObject> newRecord(const QString &kind);
+/** Puts a record at the end of the list and tells its watchers. Returns the record in the list;
+ *  null, with an error line, where the list takes none. */
+ostrel::ModuleObject *appendRecord(const QString &kind,
+                                   std::unique_ptr<ostrel::ModuleObject> record);
+/** Tells the watchers of a record that something in it has changed. */
+void touch(ostrel::ModuleObject *record);
+
+/** Sends a request to the controller's program data and waits for the answer; a missing answer, or
+ *  one that is no integer, counts as noAnswer. 0 is success. Blocks for the service hub. */
+int commandProjectVariable(ostrel::ModuleObject *request, int noAnswer);
+
+} // namespace zeplet

@@ -129,6 +129,24 @@ QPainterPath glyphPath(Glyph glyph)
         return join({arc({12, 12}, 8, 60, 280), lines({{16.4, 1.6}, {16, 5.2}, {19.6, 5.6}})});
     case Glyph::User:
         return join({circle({12, 8}, 4), arc({12, 21}, 8, 0, 180)});
+    case Glyph::Folder:
+        return lines({{3, 19}, {3, 5.5}, {9, 5.5}, {11.5, 8.5}, {21, 8.5}, {21, 19}}, true);
+    case Glyph::Lamp:
+        return join({arc({12, 10}, 6.5, -60, 300),
+                     lines({{8.75, 15.6}, {8.75, 18}, {15.25, 18}, {15.25, 15.6}}),
+                     lines({{10, 21}, {14, 21}})});
+    case Glyph::Target:
+        return join({circle({12, 12}, 6.5), circle({12, 12}, 1), lines({{12, 2}, {12, 7}}),
+                     lines({{12, 17}, {12, 22}}), lines({{2, 12}, {7, 12}}),
+                     lines({{17, 12}, {22, 12}})});
+    case Glyph::Variable:
+        return join({lines({{8, 4}, {5, 4}, {5, 20}, {8, 20}}),
+                     lines({{16, 4}, {19, 4}, {19, 20}, {16, 20}}), lines({{9.5, 9}, {14.5, 15}}),
+                     lines({{14.5, 9}, {9.5, 15}})});
+    case Glyph::Arm:
+        return join({lines({{4, 21}, {12, 21}}), lines({{8, 21}, {8, 17}}), circle({8, 14.5}, 2.5),
+                     lines({{9.2, 12.3}, {12.3, 7}}), circle({13.5, 5}, 2.3),
+                     lines({{15.6, 6}, {20, 9.5}, {20, 12.5}})});
     case Glyph::Key:
         return join({roundedBox({3.5, 5.5, 17, 13}, 2.5), lines({{8, 14.5}, {16, 14.5}})});
     default:
@@ -183,7 +201,12 @@ bool glyphFromName(const QString &name, Glyph *glyph)
                                               {"ok", Glyph::Ok},
                                               {"fullscreen", Glyph::FullScreen},
                                               {"list", Glyph::List},
-                                              {"key", Glyph::Key}};
+                                              {"key", Glyph::Key},
+                                              {"folder", Glyph::Folder},
+                                              {"lamp", Glyph::Lamp},
+                                              {"target", Glyph::Target},
+                                              {"variable", Glyph::Variable},
+                                              {"arm", Glyph::Arm}};
     const auto it = names.constFind(name);
     if (it == names.constEnd())
         return false;

@@ -34,7 +34,12 @@ enum class Glyph {
     Right,
     FullScreen,
     List,
-    Key
+    Key,
+    Folder,
+    Lamp,
+    Target,
+    Variable,
+    Arm ///< the last one
 };
 
 /** The pictogram, size pixels square. ratio: physical pixels per pixel. */

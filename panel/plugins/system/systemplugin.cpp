@@ -3,6 +3,7 @@
 #include "systempage.h"
 
 #include <QCoreApplication>
+#include <kit/page.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/events/zepleteventsystem.h>
 #include <zeplet/plugin/pluginregister.h>
@@ -32,17 +33,6 @@ void destroyBusWithPanel()
                      });
 }
 
-// The module entered the page just before init(); a plugin's entry has no pictogram otherwise.
-void choosePictogram(QObject *origin)
-{
-    ostrel::ModuleObject *const pages = m(QStringLiteral("kivra.page.robot.page.pack.page"));
-    for (int i = 0; i < pages->childCount(); ++i) {
-        ostrel::ModuleObject *const entry = pages->r(QLatin1Char('#') + QString::number(i));
-        if (entry->getStr(QStringLiteral("nav"), QString()) == QLatin1String("zeplet.zeplet"))
-            entry->set(origin, QStringLiteral("icon"), QStringLiteral("plugin"), true);
-    }
-}
-
 [[maybe_unused]] const bool registered = [] {
     zeplet::zepletFactory().regist(pluginName(),
                                    [](QObject *parent) { return new SystemPlugin(parent); });
@@ -63,7 +53,7 @@ void SystemPlugin::init()
     m_page = new SystemPage;
     connect(m_page, &SystemPage::tryAgain, this, &SystemPlugin::requestRetry);
     zeplet::CreateCenterWidget(pluginName(), m_page);
-    choosePictogram(this);
+    kit::choosePictogram(this, pluginName(), QStringLiteral("plugin"));
 }
 
 void SystemPlugin::render()

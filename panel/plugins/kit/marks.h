@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <brisa/glyphlabel.h>
+
+class QPainter;
+class QRect;
+
+/** What all pages draw alike. */
+namespace kit
+{
+
+using brisa::Tone;
+
+struct ToneColours {
+    QColor line; ///< text and pictograms
+    QColor soft; ///< the ground behind them
+};
+
+/** The current theme's colours for a meaning. */
+ToneColours toneColours(Tone tone);
+
+/** Unknown: nobody knows at present, as without a link. */
+enum class Lamp { None, Off, On, Unknown };
+
+constexpr int LampSize = 22;
+
+void drawLamp(QPainter *painter, const QRect &box, Lamp lamp);
+
+/** A word on a soft ground: "Open". */
+struct Mark {
+    QString text;
+    Tone tone = Tone::Muted;
+
+    bool operator==(const Mark &other) const { return text == other.text && tone == other.tone; }
+};
+
+int markWidth(const Mark &mark);
+/** Draws the mark at the left of the box, in the middle of its height. */
+void drawMark(QPainter *painter, const QRect &box, const Mark &mark);
+
+} // namespace kit

@@ -1,0 +1,169 @@
+#include "overlay.h"
+
+#include "page.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <brisa/thememanager.h>
+#include <zeplet/plugin/uiservices.h>
+
+namespace kit
+{
+
+using brisa::ThemeManager;
+namespace metrics = brisa::metrics;
+
+namespace
+{
+
+constexpr int CardWidth = 600;
+
+} // namespace
+
+Overlay::Overlay(Page *page, const QString &title)
+    : QWidget(page->window())
+    , m_page(page)
+    , m_card(new QFrame(this))
+    , m_content(new QVBoxLayout)
+    , m_buttons(new QHBoxLayout)
+{
+    hide();
+    setFocusPolicy(Qt::StrongFocus);
+    m_card->setProperty("role", QStringLiteral("card"));
+    m_card->setFixedWidth(CardWidth);
+    auto *const heading = new QLabel(title, m_card);
+    heading->setTextFormat(Qt::PlainText);
+    heading->setWordWrap(true);
+    heading->setProperty("role", QStringLiteral("heading"));
+    m_content->setSpacing(metrics::Grid);
+    m_buttons->setSpacing(metrics::Grid);
+    m_buttons->addStretch(1);
+    auto *const column = new QVBoxLayout(m_card);
+    column->setContentsMargins(3 * metrics::Grid, 3 * metrics::Grid, 3 * metrics::Grid,
+                               3 * metrics::Grid);
+    column->setSpacing(metrics::Margin);
+    column->addWidget(heading);
+    column->addLayout(m_content);
+    column->addLayout(m_buttons);
+    auto *const middle = new QVBoxLayout(this);
+    middle->addStretch(1);
+    middle->addWidget(m_card, 0, Qt::AlignHCenter);
+    middle->addStretch(1);
+    connect(page, &QObject::destroyed, this, &QObject::deleteLater);
+    connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &Overlay::applyTheme);
+    parentWidget()->installEventFilter(this);
+}
+
+Overlay::~Overlay() = default;
+
+QVBoxLayout *Overlay::content() const
+{
+    return m_content;
+}
+
+QLabel *Overlay::addParagraph(const QString &text)
+{
+    auto *const label = new QLabel(text, m_card);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    m_content->addWidget(label);
+    return label;
+}
+
+QPushButton *Overlay::addButton(const QString &text, const QString &objectName, const QString &role)
+{
+    auto *const button = new QPushButton(text, m_card);
+    button->setObjectName(objectName);
+    button->setProperty("role", role);
+    m_buttons->addWidget(button);
+    return button;
+}
+
+void Overlay::addCancel(const QString &text)
+{
+    m_cancelable = true;
+    connect(addButton(text, QStringLiteral("cancel")), &QPushButton::clicked, this,
+            &Overlay::finish);
+}
+
+// The host dims its window when it counts: this comes above that.
+void Overlay::open()
+{
+    if (!m_page)
+        return;
+    m_page->setOverlay(this);
+    m_open = true;
+    zeplet::ChangeModelWindowStatus(m_page->pluginName(), true);
+    applyTheme();
+    setGeometry(parentWidget()->rect());
+    show();
+    raise();
+    const QList<QWidget *> chain = focusChain();
+    (chain.isEmpty() ? this : chain.first())->setFocus();
+}
+
+void Overlay::finish()
+{
+    if (!std::exchange(m_open, false))
+        return;
+    hide();
+    if (m_page)
+        zeplet::ChangeModelWindowStatus(m_page->pluginName(), false);
+    deleteLater();
+}
+
+void Overlay::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(rect(), QColor(0, 0, 0, 60));
+}
+
+void Overlay::keyPressEvent(QKeyEvent *event)
+{
+    if (m_cancelable && event->key() == Qt::Key_Escape)
+        finish();
+}
+
+void Overlay::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+// The focus stays within the card.
+bool Overlay::focusNextPrevChild(bool next)
+{
+    const QList<QWidget *> chain = focusChain();
+    if (chain.isEmpty())
+        return true;
+    const int step = next ? 1 : chain.size() - 1;
+    const int at = qMax(0, chain.indexOf(focusWidget()));
+    chain.at((at + step) % chain.size())
+        ->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+bool Overlay::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void Overlay::applyTheme()
+{
+    setStyleSheet(ThemeManager::instance()->styleSheet());
+}
+
+QList<QWidget *> Overlay::focusChain() const
+{
+    QList<QWidget *> chain;
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if (isAncestorOf(widget) && widget->isEnabled() && widget->isVisibleTo(this)
+            && (widget->focusPolicy() & Qt::TabFocus))
+            chain.append(widget);
+    return chain;
+}
+
+} // namespace kit

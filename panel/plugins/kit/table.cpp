@@ -1,0 +1,178 @@
+#include "table.h"
+
+#include "celldelegate.h"
+#include "tablemodel.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QScroller>
+#include <algorithm>
+#include <brisa/thememanager.h>
+
+namespace kit
+{
+
+using brisa::ThemeManager;
+namespace metrics = brisa::metrics;
+
+bool Cell::operator==(const Cell &other) const
+{
+    return text == other.text && hint == other.hint && tone == other.tone && lamp == other.lamp
+        && marks == other.marks && button == other.button;
+}
+
+Table::Table(const QStringList &headers, QWidget *parent)
+    : QTableView(parent)
+    , m_model(new TableModel(headers, this))
+{
+    setModel(m_model);
+    setItemDelegate(new CellDelegate(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(metrics::Touch);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex &index) {
+        const Cell &tapped = m_model->cell(index);
+        if (tapped.button && !tapped.text.isEmpty())
+            Q_EMIT buttonTapped(keyOf(index), index.column());
+    });
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (!m_model->cell(index).button)
+            Q_EMIT opened(keyOf(index));
+    });
+}
+
+// Without this the application would go on asking the recognizer of a table that has gone.
+Table::~Table()
+{
+    if (QScroller::hasScroller(viewport()))
+        QScroller::ungrabGesture(viewport());
+}
+
+void Table::setRows(const QVector<Row> &rows)
+{
+    if (m_model->update(rows))
+        return;
+    const QString key = currentKey();
+    const int place = verticalScrollBar()->value();
+    m_replacing = true;
+    m_model->replace(rows);
+    const auto chosen
+        = std::find_if(rows.begin(), rows.end(), [&](const Row &row) { return row.key == key; });
+    if (!key.isEmpty() && chosen != rows.end())
+        selectRow(static_cast<int>(chosen - rows.begin()));
+    verticalScrollBar()->setValue(place);
+    m_replacing = false;
+    selectionChanged(QItemSelection(), QItemSelection());
+}
+
+void Table::setHeaders(const QStringList &headers)
+{
+    m_model->setHeaders(headers);
+}
+
+void Table::setWidths(const QVector<int> &widths)
+{
+    for (int column = 0; column < widths.size(); ++column) {
+        const bool rest = widths.at(column) == 0;
+        horizontalHeader()->setSectionResizeMode(column,
+                                                 rest ? QHeaderView::Stretch : QHeaderView::Fixed);
+        if (!rest)
+            setColumnWidth(column, widths.at(column));
+    }
+}
+
+void Table::setEmptyState(brisa::Glyph glyph, const QString &title, const QString &hint)
+{
+    m_emptyGlyph = glyph;
+    m_emptyTitle = title;
+    m_emptyHint = hint;
+    viewport()->update();
+}
+
+QString Table::currentKey() const
+{
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    return chosen.isEmpty() ? QString() : keyOf(chosen.first());
+}
+
+bool Table::choose(const QString &key)
+{
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        if (m_model->rows().at(row).key != key)
+            continue;
+        selectRow(row);
+        scrollTo(m_model->index(row, 0));
+        return true;
+    }
+    return false;
+}
+
+const Cell &Table::cell(int row, int column) const
+{
+    return m_model->cell(m_model->index(row, column));
+}
+
+// Pictogram, title and hint in the middle; the hint may wrap.
+void Table::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (m_model->rowCount() > 0 || m_emptyTitle.isEmpty())
+        return;
+    constexpr int icon = 2 * metrics::Icon;
+    constexpr int height = icon + 12 * metrics::Grid;
+    const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
+    QPainter painter(viewport());
+    QRect box = viewport()->rect().adjusted(metrics::Margin, 0, -metrics::Margin, 0);
+    int y = qMax(0, box.center().y() - height / 2);
+    painter.drawPixmap(
+        box.center().x() - icon / 2, y,
+        brisa::glyphPixmap(m_emptyGlyph, colours.mutedText, icon, devicePixelRatioF()));
+    y += icon + metrics::Margin;
+    painter.setFont(ThemeManager::font(brisa::TextSize::Title, true));
+    painter.setPen(colours.text);
+    painter.drawText(QRect(box.x(), y, box.width(), 3 * metrics::Grid),
+                     Qt::AlignHCenter | Qt::AlignTop, m_emptyTitle);
+    y += 4 * metrics::Grid;
+    painter.setFont(ThemeManager::font(brisa::TextSize::Body));
+    painter.setPen(colours.mutedText);
+    painter.drawText(QRect(box.x(), y, box.width(), box.bottom() - y),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyHint);
+}
+
+// Not earlier: most pages are never shown in a session.
+void Table::showEvent(QShowEvent *event)
+{
+    QTableView::showEvent(event);
+    if (!QScroller::hasScroller(viewport()))
+        QScroller::grabGesture(viewport(), QScroller::TouchGesture);
+}
+
+void Table::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (m_replacing)
+        return;
+    const QString key = currentKey();
+    if (key == m_announced)
+        return;
+    m_announced = key;
+    Q_EMIT currentKeyChanged(key);
+}
+
+QString Table::keyOf(const QModelIndex &index) const
+{
+    return m_model->rows().at(index.row()).key;
+}
+
+} // namespace kit

@@ -20,6 +20,7 @@ class CommandRegistry
 {
 public:
     using Handler = std::function<Reply(const QJsonValue &arguments, Session &session)>;
+    using Condition = std::function<bool()>;
 
     CommandRegistry() = default;
     /** `fixedAnswers`, by command, go before the commands. They outlive the registry. */
@@ -28,21 +29,36 @@ public:
     {
     }
 
-    /** A name that exists already gets the new handler. */
-    void add(const QString &name, const Handler &handler) { m_handlers.insert(name, handler); }
+    /** A name that exists already gets the new handler. While the condition is false the command is
+     *  unknown: not every controller version has it. */
+    void add(const QString &name, const Handler &handler, const Condition &exists = {})
+    {
+        m_commands.insert(name, {handler, exists});
+    }
+
+    bool knows(const QString &name) const
+    {
+        if (m_fixedAnswers != nullptr && m_fixedAnswers->contains(name))
+            return true;
+        const auto found = m_commands.constFind(name);
+        return found != m_commands.cend() && (!found->exists || found->exists());
+    }
 
     Reply run(const QString &name, const QJsonValue &arguments, Session &session) const
     {
+        if (!knows(name))
+            return Reply::unknown(QStringLiteral("unknown command '%1'").arg(name));
         if (m_fixedAnswers != nullptr && m_fixedAnswers->contains(name))
             return Reply::done(m_fixedAnswers->value(name));
-        const auto found = m_handlers.constFind(name);
-        if (found == m_handlers.cend())
-            return Reply::unknown(QStringLiteral("unknown command '%1'").arg(name));
-        return (*found)(arguments, session);
+        return m_commands.value(name).handler(arguments, session);
     }
 
 private:
-    QHash<QString, Handler> m_handlers;
+    struct Command {
+        Handler handler;
+        Condition exists;
+    };
+    QHash<QString, Command> m_commands;
     const QHash<QString, QJsonValue> *m_fixedAnswers = nullptr;
 };
 

@@ -1,7 +1,7 @@
 #include "control.h"
 
-#include "jsontext.h"
-#include "simulator.h"
+#include "controlmotion.h"
+#include "controlwords.h"
 
 #include <QJsonArray>
 #include <map>
@@ -11,68 +11,7 @@ namespace simulator
 
 namespace
 {
-
-/** Takes a line apart from the left. */
-class Words
-{
-public:
-    explicit Words(const QString &line)
-        : m_rest(line.trimmed())
-    {
-    }
-
-    /** The next word, "" at the end. */
-    QString next()
-    {
-        int end = 0;
-        while (end < m_rest.size() && !m_rest.at(end).isSpace())
-            ++end;
-        QString word = m_rest.left(end);
-        m_rest = m_rest.mid(end).trimmed();
-        return word;
-    }
-    QString rest() const { return m_rest; }
-    bool atEnd() const { return m_rest.isEmpty(); }
-
-private:
-    QString m_rest;
-};
-
 using Parser = ControlLine (*)(Words &words);
-
-ControlLine usage(const QString &text)
-{
-    return {{}, QStringLiteral("usage: ") + text};
-}
-
-/** A step that can't be refused. */
-template <typename Function>
-ControlLine step(Function function)
-{
-    return {[function](Simulator &simulator) {
-                function(simulator);
-                return Reply {};
-            },
-            QString()};
-}
-
-template <typename Function>
-ControlLine query(Function function)
-{
-    return {[function](Simulator &simulator) { return Reply::done(function(simulator)); },
-            QString()};
-}
-
-/** The rest of the line as JSON, handed to the function that makes the step of it. */
-template <typename Function>
-ControlLine withJson(const Words &words, Function function)
-{
-    QString error;
-    const auto value = jsonFromText(words.rest(), &error);
-    if (!value)
-        return {{}, error};
-    return function(*value);
-}
 
 ControlLine parseSetNumber(const QString &what, const QString &text)
 {
@@ -269,12 +208,12 @@ ControlLine parseState(Words &words)
 ControlLine ControlLine::parse(const QString &line)
 {
     static const std::map<QString, Parser> parsers {
-        {QStringLiteral("answer"), parseAnswer},   {QStringLiteral("count"), parseCount},
-        {QStringLiteral("drop"), parseDrop},       {QStringLiteral("fault"), parseFault},
-        {QStringLiteral("files"), parseFiles},     {QStringLiteral("hub"), parseHub},
-        {QStringLiteral("last"), parseLast},       {QStringLiteral("notify"), parseNotify},
-        {QStringLiteral("program"), parseProgram}, {QStringLiteral("set"), parseSet},
-        {QStringLiteral("state"), parseState},
+        {QStringLiteral("answer"), parseAnswer}, {QStringLiteral("count"), parseCount},
+        {QStringLiteral("drop"), parseDrop},     {QStringLiteral("fault"), parseFault},
+        {QStringLiteral("files"), parseFiles},   {QStringLiteral("frame"), parseFrame},
+        {QStringLiteral("hub"), parseHub},       {QStringLiteral("last"), parseLast},
+        {QStringLiteral("notify"), parseNotify}, {QStringLiteral("program"), parseProgram},
+        {QStringLiteral("set"), parseSet},       {QStringLiteral("state"), parseState},
     };
     Words words(line);
     const QString name = words.next();

@@ -125,8 +125,8 @@ bool FileServer::prepare(QString *error) const
     }
     // Debian's init script or a person may run another daemon: nothing of the system's is used.
     const QByteArray config = "use chroot = no\nreverse lookup = no\nmax connections = 16\n"
-                              "socket options = TCP_NODELAY\n" + identity()
-        + "lock file = " + QFile::encodeName(inDirectory("rsyncd.lock"))
+                              "socket options = TCP_NODELAY\n"
+        + identity() + "lock file = " + QFile::encodeName(inDirectory("rsyncd.lock"))
         + "\nlog file = " + QFile::encodeName(inDirectory(kLogFile))
         + "\n[hmi]\npath = " + QFile::encodeName(root())
         + "\nread only = no\nlist = no\nauth users = brisa\nsecrets file = "

@@ -11,13 +11,14 @@ namespace simulator
 /** Where the controller's files are and how they are reached. */
 struct FileOptions {
     QString directory; ///< the file root; empty: the controller has no files
-    std::optional<quint16> port; ///< 0: any free one; nothing: 873, or any free one if that is taken
+    std::optional<quint16>
+        port; ///< 0: any free one; nothing: 873, or any free one if that is taken
 };
 
 /**
- * The controller's files: a directory whose part "hmi" a real rsync daemon serves on loopback as the
- * module "hmi". While the daemon is stopped its port stays reserved, so that a connection is refused
- * and it can start again on the same one. Lives on the simulator's thread.
+ * The controller's files: a directory whose part "hmi" a real rsync daemon serves on loopback as
+ * the module "hmi". While the daemon is stopped its port stays reserved, so that a connection is
+ * refused and it can start again on the same one. Lives on the simulator's thread.
  */
 class FileServer : public QObject
 {

@@ -22,19 +22,24 @@ Reply missing(const char *member, const char *type)
 }
 } // namespace
 
-HubCommands::HubCommands(CommandRegistry &registry, HubData &data, const Answers &answers)
+HubCommands::HubCommands(CommandRegistry &registry, HubData &data, const Answers &answers,
+                         CommandRegistry &keys)
     : m_data(data)
     , m_answers(answers)
+    , m_keys(keys)
 {
     registry.add(QStringLiteral("hub.snapshot"),
                  [this](const QJsonValue &, Session &) { return Reply::done(m_data.snapshot()); });
     registry.add(QStringLiteral("hub.set"),
                  [this](const QJsonValue &arguments, Session &) { return set(arguments); });
     registry.add(QStringLiteral("hub.command"),
-                 [this](const QJsonValue &arguments, Session &) { return command(arguments); });
+                 [this](const QJsonValue &arguments, Session &session) {
+                     return command(arguments, session);
+                 });
     registry.add(QStringLiteral("hub.plugin"),
                  [this](const QJsonValue &arguments, Session &) { return plugin(arguments); });
     registry.add(QStringLiteral("hub.watch"), watch);
+    keys.add(kEchoCommand, [](const QJsonValue &value, Session &) { return Reply::done(value); });
 }
 
 Reply HubCommands::set(const QJsonValue &arguments)
@@ -53,17 +58,14 @@ Reply HubCommands::set(const QJsonValue &arguments)
         below.isEmpty() ? key.toString() : key.toString() + QLatin1Char('.') + below, value));
 }
 
-Reply HubCommands::command(const QJsonValue &arguments) const
+Reply HubCommands::command(const QJsonValue &arguments, Session &session) const
 {
     const QJsonValue key = arguments[QStringLiteral("key")];
     if (!key.isString())
         return missing("key", "a text");
-    const auto answer = m_answers.hub.constFind(key.toString());
-    if (answer != m_answers.hub.cend())
-        return Reply::done(*answer);
-    if (key.toString() == kEchoCommand)
-        return Reply::done(arguments[QStringLiteral("value")]);
-    return Reply::refused(QStringLiteral("unknown hub command '%1'").arg(key.toString()));
+    if (!m_keys.knows(key.toString()))
+        return Reply::refused(QStringLiteral("unknown hub command '%1'").arg(key.toString()));
+    return m_keys.run(key.toString(), arguments[QStringLiteral("value")], session);
 }
 
 Reply HubCommands::plugin(const QJsonValue &arguments) const

@@ -96,6 +96,22 @@ int JsonReader::choice(const QString &name, const QStringList &choices, int byDe
     return byDefault;
 }
 
+QVector<double> JsonReader::numbers(const QString &name, int count,
+                                    const QVector<double> &byDefault)
+{
+    if (!has(name))
+        return byDefault;
+    QVector<double> numbers;
+    for (const QJsonValue &number : value(name).toArray()) {
+        if (number.isDouble() && std::isfinite(number.toDouble()))
+            numbers += number.toDouble();
+    }
+    if (numbers.size() == count && value(name).toArray().size() == count)
+        return numbers;
+    report(name, QStringLiteral("expected an array of %1 numbers").arg(count));
+    return byDefault;
+}
+
 QJsonObject JsonReader::object(const QString &name)
 {
     if (has(name) && !value(name).isObject())

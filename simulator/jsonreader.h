@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace simulator
 {
@@ -33,6 +34,8 @@ public:
     int integer(const QString &name, int byDefault, int min, int max);
     /** The index of the member's text among the choices. */
     int choice(const QString &name, const QStringList &choices, int byDefault);
+    /** As many numbers as `count`, or the default. */
+    QVector<double> numbers(const QString &name, int count, const QVector<double> &byDefault);
     QJsonObject object(const QString &name);
     QJsonArray array(const QString &name);
     QJsonValue value(const QString &name) const { return m_object.value(name); }

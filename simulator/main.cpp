@@ -76,5 +76,7 @@ int main(int argc, char *argv[])
         return kFailed;
     }
     scenario->files = options->files;
+    if (!options->profile.isEmpty())
+        scenario->robot.version = options->profile;
     return run(*options, *scenario);
 }

@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "profile.h"
+
 #include <QCommandLineParser>
 
 namespace simulator
@@ -36,6 +38,10 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
         QStringLiteral("rsync-port"),
         QStringLiteral("Port of the rsync daemon (default: 873, or any free one)."),
         QStringLiteral("port"));
+    const QCommandLineOption profile(QStringLiteral("profile"),
+                                     QStringLiteral("Play this version of a controller: %1.")
+                                         .arg(Profile::names().join(QStringLiteral(", "))),
+                                     QStringLiteral("version"));
     const QCommandLineOption trace(
         QStringLiteral("trace"),
         QStringLiteral("Print each frame that arrives to standard error."));
@@ -50,7 +56,7 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
         "commands from standard input, one per line, and answers each with a line of JSON."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({port, hubPort, scenario, files, rsyncPort, trace, untilEof});
+    parser.addOptions({port, hubPort, scenario, profile, files, rsyncPort, trace, untilEof});
     if (!parser.parse(arguments)) {
         *error = parser.errorText();
         return std::nullopt;
@@ -75,8 +81,14 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
         *error = QStringLiteral("--rsync-port goes with --files");
         return std::nullopt;
     }
-    return Options {*controllerPort, *otherPort,          parser.value(scenario),
-                    fileOptions,     parser.isSet(trace), parser.isSet(untilEof)};
+    if (parser.isSet(profile) && !Profile::names().contains(parser.value(profile))) {
+        *error = QStringLiteral("'%1' is no profile (known: %2)")
+                     .arg(parser.value(profile), Profile::names().join(QStringLiteral(", ")));
+        return std::nullopt;
+    }
+    return Options {*controllerPort,       *otherPort,  parser.value(scenario),
+                    parser.value(profile), fileOptions, parser.isSet(trace),
+                    parser.isSet(untilEof)};
 }
 
 } // namespace simulator

@@ -42,14 +42,14 @@ bool listens(qint64 pid, quint16 port)
 {
     const QString socket = listeningSocket(port);
     const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(pid));
-    const QStringList names = descriptors.entryList(QDir::System | QDir::Files | QDir::NoDotAndDotDot);
-    return !socket.isEmpty()
-        && std::any_of(names.cbegin(), names.cend(), [&](const QString &name) {
-               const QByteArray path = QFile::encodeName(descriptors.filePath(name));
-               std::array<char, 64> target {};
-               const ssize_t size = ::readlink(path.constData(), target.data(), target.size());
-               return size > 0 && socket == QString::fromLatin1(target.data(), int(size));
-           });
+    const QStringList names
+        = descriptors.entryList(QDir::System | QDir::Files | QDir::NoDotAndDotDot);
+    return !socket.isEmpty() && std::any_of(names.cbegin(), names.cend(), [&](const QString &name) {
+        const QByteArray path = QFile::encodeName(descriptors.filePath(name));
+        std::array<char, 64> target {};
+        const ssize_t size = ::readlink(path.constData(), target.data(), target.size());
+        return size > 0 && socket == QString::fromLatin1(target.data(), int(size));
+    });
 }
 } // namespace
 
@@ -128,7 +128,8 @@ QString RsyncDaemon::lastWords()
 {
     const QString text = QString::fromLocal8Bit(m_process.readAllStandardError()).simplified();
     return QStringLiteral("rsync ended with %1%2")
-        .arg(QString::number(m_process.exitCode()), text.isEmpty() ? QString() : QStringLiteral(": ") + text);
+        .arg(QString::number(m_process.exitCode()),
+             text.isEmpty() ? QString() : QStringLiteral(": ") + text);
 }
 
 } // namespace simulator

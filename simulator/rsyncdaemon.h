@@ -6,8 +6,8 @@
 namespace simulator
 {
 
-/** Debian's rsync as a daemon on loopback. It and its transfers end with the simulator, even with one
- *  that is killed. */
+/** Debian's rsync as a daemon on loopback. It and its transfers end with the simulator, even with
+ * one that is killed. */
 class RsyncDaemon : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "scenario.h"
 
 #include "control.h"
+#include "framesreader.h"
 #include "hubdata.h"
 #include "jsonreader.h"
 
@@ -162,9 +163,11 @@ Scenario readScenario(const QJsonObject &document, JsonError &error)
 {
     JsonReader reader(document, QString(), error);
     reader.allowOnly({QStringLiteral("robot"), QStringLiteral("hub"), QStringLiteral("answers"),
-                      QStringLiteral("faults"), QStringLiteral("timeline")});
+                      QStringLiteral("faults"), QStringLiteral("timeline"), QStringLiteral("tools"),
+                      QStringLiteral("wobjs")});
     Scenario scenario;
     scenario.robot = readRobot(reader.value(QStringLiteral("robot")), error);
+    scenario.frames = readFrames(reader, error);
     scenario.hub = reader.object(QStringLiteral("hub"));
     checkHub(scenario.hub, QStringLiteral("hub"), error);
     scenario.answers = readAnswers(reader.value(QStringLiteral("answers")), error);

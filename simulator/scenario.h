@@ -3,6 +3,7 @@
 #include "answers.h"
 #include "faults.h"
 #include "fileserver.h"
+#include "frames.h"
 #include "robotstate.h"
 
 #include <QJsonObject>
@@ -23,6 +24,7 @@ struct TimelineStep {
 /** What a simulator starts with. Members and their defaults: docs/simulator.md. */
 struct Scenario {
     RobotState::Values robot;
+    Frames::Values frames;
     QJsonObject hub;
     Answers answers;
     QVector<Fault> faults;

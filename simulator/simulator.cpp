@@ -17,6 +17,7 @@ class Simulator::Private
 public:
     explicit Private(const Scenario &scenario)
         : robot(scenario.robot)
+        , frames(scenario.frames)
         , hub(scenario.hub)
         , answers(scenario.answers)
         , timeline(scenario.timeline)
@@ -27,6 +28,7 @@ public:
     }
 
     RobotState robot;
+    Frames frames;
     HubData hub;
     Faults faults;
     Answers answers;
@@ -38,7 +40,8 @@ public:
     StateCommands stateCommands {controllerRegistry, robot};
     ProgramCommands programCommands {controllerRegistry, robot};
     CommandRegistry hubRegistry;
-    HubCommands hubCommands {hubRegistry, hub, answers};
+    CommandRegistry hubKeys {answers.hub}; ///< what `hub.command` carries out, by key
+    HubCommands hubCommands {hubRegistry, hub, answers, hubKeys};
 
     Endpoint controllerEnd {QStringLiteral("controller"), {controllerRegistry, faults, requests}};
     Endpoint hubEnd {QStringLiteral("hub"), {hubRegistry, faults, requests}};
@@ -135,6 +138,11 @@ quint16 Simulator::rsyncPort() const
 RobotState &Simulator::robot()
 {
     return d->robot;
+}
+
+Frames &Simulator::frames()
+{
+    return d->frames;
 }
 
 HubData &Simulator::hub()

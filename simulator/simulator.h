@@ -3,6 +3,7 @@
 #include "answers.h"
 #include "faults.h"
 #include "fileserver.h"
+#include "frames.h"
 #include "hubdata.h"
 #include "reply.h"
 #include "requestlog.h"
@@ -42,6 +43,7 @@ public:
     quint16 rsyncPort() const;
 
     RobotState &robot();
+    Frames &frames();
     HubData &hub();
     Faults &faults();
     Answers &answers();

@@ -72,8 +72,8 @@ bool arePaths(const QString &localPath, const QString &remotePath)
 {
     if (isPath(localPath) && isPath(remotePath))
         return true;
-    errorLine() << QStringLiteral("sync: not both are paths: \"%1\" and \"%2\"")
-                       .arg(localPath, remotePath);
+    errorLine()
+        << QStringLiteral("sync: not both are paths: \"%1\" and \"%2\"").arg(localPath, remotePath);
     return false;
 }
 

@@ -15,8 +15,8 @@ namespace zeplet
  * yet, and while another operation runs. What rsync complains about is logged; with reportError a
  * failure is shown to the operator, too.
  *
- * A remote path starts with the daemon's module, as in "hmi/NAME". An rsync that still runs after 30
- * s counts as failed and is left to itself.
+ * A remote path starts with the daemon's module, as in "hmi/NAME". An rsync that still runs after
+ * 30 s counts as failed and is left to itself.
  */
 class ZEPLET_EXPORT SyncTool : public QObject
 {

@@ -86,6 +86,12 @@ private slots:
             "timeline[0].do[1]: ", "unknown control command 'jump'");
         row("quit is for people", R"({"timeline": [{"do": "quit"}]})",
             "timeline[0].do: ", "unknown");
+        row("tool of the system", R"({"tools": {"project": [{"name": "tool0"}]}})",
+            "tools.project[0].name: ", "belongs to the system");
+        row("work object twice", R"({"wobjs": {"global": [{"name": "a"}, {"name": "a"}]}})",
+            "wobjs.global[1].name: ", "twice");
+        row("short pose", R"({"tools": {"project": [{"name": "a", "pose": [1, 2]}]}})",
+            "tools.project[0].pose: ", "6 numbers");
         row("too fast", R"({"timeline": [{"every": 1, "do": "state"}]})",
             "timeline[0].every: ", "10");
     }

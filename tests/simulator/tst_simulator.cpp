@@ -145,6 +145,10 @@ private slots:
         fails({"hub set a {"}, "not JSON");
         fails({"hub set a 1, 2"}, "one value");
         fails({"hub get a b"}, "usage");
+        done({"frame set tool project g 0 0 1e2 0 0 90", "frame remove tool project g"}, true);
+        fails({"frame set tool project g 0 0 nan 0 0 0"}, "usage: frame");
+        fails({"frame set tool global tool0 0 0 0 0 0 0"}, "belongs to the system");
+        fails({"frame remove wobj global g"}, "no 'g'");
         fails({"notify p"}, "usage: notify");
         fails({"notify p x"}, "not JSON");
         fails({"answer plugin p 1"}, "ARRAY");

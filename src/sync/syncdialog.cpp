@@ -1,6 +1,7 @@
 #include <zeplet/sync/syncdialog_p.h>
 
 #include <QTimer>
+#include <brisa/managerhelper.h>
 #include <brisa/thememanager.h>
 
 namespace zeplet
@@ -10,7 +11,7 @@ SyncDialog::SyncDialog(QWidget *parent)
     : QProgressDialog(parent, Qt::FramelessWindowHint)
 {
     setLabelText(tr("Synchronizing..."));
-    setFont(brisa::ThemeManager::font(QStringLiteral("default")));
+    setFont(brisa::ManagerHelper::instance()->themeManager()->font(QStringLiteral("default")));
     setCancelButton(nullptr);
     setRange(0, 0); // busy: rsync's progress is not read
     setMinimumDuration(1);

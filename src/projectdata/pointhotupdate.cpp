@@ -23,9 +23,8 @@ std::unique_ptr<ModuleObject> refreshedVariable(ModuleObject *record, const QStr
     const bool isJoint = field(record, QStringLiteral("property")) == QLatin1String("joint");
     const QString type = isJoint ? QStringLiteral("jointtarget") : QStringLiteral("robtarget");
     auto entry = std::make_unique<ModuleObject>();
-    const auto set = [&](const QString &name, const QString &text) {
-        entry->set(nullptr, name, text, true);
-    };
+    const auto set
+        = [&](const QString &name, const QString &text) { entry->set(nullptr, name, text, true); };
     set(QStringLiteral("name"), field(record, QStringLiteral("name")));
     set(QStringLiteral("type"), type);
     set(QStringLiteral("s_d"), index);

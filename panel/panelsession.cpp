@@ -1,5 +1,6 @@
 #include "panelsession.h"
 
+#include "desktoptools.h"
 #include "mainwindow.h"
 #include "panellog.h"
 #include "pluginloader.h"
@@ -56,6 +57,7 @@ bool PanelSession::start(QString *error)
 {
     if (!enterRuntimeDirectory(error))
         return false;
+    DesktopTools(m_options.runtimeDirectory).provide();
     announce(QStringLiteral("starting"));
     m(QStringLiteral("panel.version"))->set(nullptr, QStringLiteral(ZEPLET_VERSION), true);
     readSettings();

@@ -95,11 +95,11 @@ bool RsyncDaemon::listen()
 {
     m_process = std::make_unique<Child>();
     m_process->setProcessChannelMode(QProcess::ForwardedChannels);
-    m_process->start(QStringLiteral("rsync"),
-                     {QStringLiteral("--daemon"), QStringLiteral("--no-detach"),
-                      QStringLiteral("--address=127.0.0.1"),
-                      QStringLiteral("--port=%1").arg(m_port),
-                      QStringLiteral("--config=") + m_directory.filePath(QStringLiteral("config"))});
+    m_process->start(
+        QStringLiteral("rsync"),
+        {QStringLiteral("--daemon"), QStringLiteral("--no-detach"),
+         QStringLiteral("--address=127.0.0.1"), QStringLiteral("--port=%1").arg(m_port),
+         QStringLiteral("--config=") + m_directory.filePath(QStringLiteral("config"))});
     const QDeadlineTimer deadline(10000);
     while (!deadline.hasExpired() && !m_process->waitForFinished(20)) {
         QTcpSocket probe;

@@ -109,8 +109,7 @@ private Q_SLOTS:
         row("push one file", [] { return pushOne(); },
             {own + "point.json", "729413", push + "point.json" + file});
         for (const char *name : {"/a/it's", "a b;$(touch pwned)`x`&|<>\"%1%2", "/a/点 'x' \\"}) {
-            row(name, [=] { return pushOne(name); },
-                {own + name, "729413", push + name + file});
+            row(name, [=] { return pushOne(name); }, {own + name, "729413", push + name + file});
         }
         for (const char *name : {"-x", "host:x", "host::x/y", "rsync://host/x"}) {
             row(name, [=] { return pushOne(name); },
@@ -238,19 +237,27 @@ private Q_SLOTS:
         const auto row = testcolumns<bool, Operation, QString>("ready", "operation", "banner");
         SyncTool *const tool = SyncTool::instance();
         row("push, not ready", false, pushDirectory, "");
-        row("pull, not ready", false, [] { return pullDirectory(true); }, "");
-        row("push one, not ready", false, [] { return pushOne(); }, "");
-        row("push from below a file", true,
-            [=] { return tool->pushFile("mark/%1", "hmi", false); },
+        row(
+            "pull, not ready", false, [] { return pullDirectory(true); }, "");
+        row(
+            "push one, not ready", false, [] { return pushOne(); }, "");
+        row(
+            "push from below a file", true, [=] { return tool->pushFile("mark/%1", "hmi", false); },
             "Cannot create path: mark/%1");
-        row("pull into a file", true, [=] { return tool->pullFile("hmi", "mark", false, false); },
+        row(
+            "pull into a file", true, [=] { return tool->pullFile("hmi", "mark", false, false); },
             "Cannot create path: mark");
-        row("push the working directory", true, [=] { return tool->pushFile("", "hmi", true); },
+        row(
+            "push the working directory", true, [=] { return tool->pushFile("", "hmi", true); },
             "Cannot create path: ");
-        row("pull from nowhere", true, [=] { return tool->pullFile("", "dir", false, true); },
+        row(
+            "pull from nowhere", true, [=] { return tool->pullFile("", "dir", false, true); },
             failed);
-        row("push no file", true, [] { return pushOne(""); }, failed);
-        row("push half a name", true, [] { return pushOne(QString("a%1b").arg(QChar(0))); }, failed);
+        row(
+            "push no file", true, [] { return pushOne(""); }, failed);
+        row(
+            "push half a name", true, [] { return pushOne(QString("a%1b").arg(QChar(0))); },
+            failed);
     }
 
     void nothingStartsWhereItMustNot()

@@ -42,6 +42,17 @@ void assign(Node &node, const QVariant &value)
     node.setValue(value);
 }
 
+// Most are texts, and most of another length, which folding of case does not change.
+bool reads(const Node *node, const QString &text, Qt::CaseSensitivity sensitivity)
+{
+    if (!node)
+        return text.isEmpty();
+    if (node->kind() == Node::Kind::String)
+        return node->string().size() == text.size()
+            && node->string().compare(text, sensitivity) == 0;
+    return node->toStr(QString()).compare(text, sensitivity) == 0;
+}
+
 QString nameOf(const Node &parent, int index)
 {
     const NameId name = parent.childAt(index)->name();
@@ -173,7 +184,7 @@ void ModuleObject::setContainer(QObject *origin, const QVariant &value, bool not
         return;
     }
     ChangeReport report(d.get(), notify);
-    assign(*d->node, value);
+    assign(*d->ensureNode(), value);
     report.emitChanges(origin);
 }
 
@@ -199,7 +210,7 @@ int ModuleObject::childCount() const
 
 ModuleObject *ModuleObject::childAt(int index)
 {
-    Node *node = d->node ? d->node->childAt(index) : nullptr;
+    const Node *node = d->node ? d->node->childAt(index) : nullptr;
     return node ? d->handleOf(*node)->q : nullptr;
 }
 
@@ -215,7 +226,7 @@ QStringList ModuleObject::childNames() const
 
 ModuleObject *ModuleObject::child(const QString &name)
 {
-    Node *node = d->node ? d->node->child(NameTable::instance().find(name)) : nullptr;
+    const Node *node = d->node ? d->node->child(NameTable::instance().find(name)) : nullptr;
     return node ? d->handleOf(*node)->q : nullptr;
 }
 
@@ -236,11 +247,9 @@ int ModuleObject::indexOf(const QString &field, const QString &text,
                           Qt::CaseSensitivity sensitivity) const
 {
     const NameId name = NameTable::instance().find(field);
-    const int count = name ? childCount() : 0;
+    const int count = childCount();
     for (int i = 0; i < count; ++i) {
-        const Node *member = d->node->childAt(i)->child(name);
-        if (member && member->kind() == Node::Kind::String
-            && member->string().compare(text, sensitivity) == 0)
+        if (reads(d->node->childAt(i)->child(name), text, sensitivity))
             return i;
     }
     return -1;
@@ -266,7 +275,7 @@ void ModuleObject::clear(QObject *origin, bool notify)
     if (!d->node)
         return;
     ChangeReport report(d.get(), notify);
-    resetContent(*d->node, d->node->isContainer() ? d->node->kind() : Node::Kind::Empty);
+    resetContent(*d->ensureNode(), d->node->isContainer() ? d->node->kind() : Node::Kind::Empty);
     report.emitChanges(origin);
 }
 
@@ -281,14 +290,14 @@ void ModuleObject::remove(QObject *origin, bool notify)
 
 bool ModuleObject::removeAt(QObject *origin, int index, bool notify)
 {
-    Node *node = d->node ? d->node->childAt(index) : nullptr;
+    const Node *node = d->node ? d->node->childAt(index) : nullptr;
     if (!node)
         return false;
     const QPointer<ModuleObject> alive(this);
     if (node->handle)
         node->handle->q->remove(origin, notify);
     else
-        removeChildAt(*d->node, index);
+        removeChildAt(*d->ensureNode(), index);
     if (alive && notify)
         Q_EMIT changed(QVariant(), QVariant(), origin);
     return true;

@@ -112,7 +112,8 @@ public:
     ModuleObject *setChild(QObject *origin, const QString &name, const QVariant &value,
                            bool notify = true);
     /**
-     * The place of the first child whose member field is the given text; -1 where there is none.
+     * The place of the first child whose member field reads as the given text; -1 where there is
+     * none. A member is read as getStr("") does it: a number as its digits, a missing one as "".
      * Neither field nor text is a path.
      */
     int indexOf(const QString &field, const QString &text,

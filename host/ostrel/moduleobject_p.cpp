@@ -61,11 +61,11 @@ void ModuleObjectPrivate::dropPlaceholder(ModuleObjectPrivate *handle)
 
 ModuleObjectPrivate *ModuleObjectPrivate::below(QStringView step)
 {
-    Node *child = node ? node->descend(step) : nullptr;
+    const Node *child = node ? node->descend(step) : nullptr;
     return child ? handleOf(*child) : placeholder(step);
 }
 
-ModuleObjectPrivate *ModuleObjectPrivate::handleOf(Node &child)
+ModuleObjectPrivate *ModuleObjectPrivate::handleOf(const Node &child)
 {
     if (!child.handle) {
         child.handle = (new ModuleObject(this, child.name()))->d.get();
@@ -93,15 +93,15 @@ ModuleObjectPrivate *ModuleObjectPrivate::placeholder(QStringView step)
 
 Node *ModuleObjectPrivate::ensureNode()
 {
-    if (node)
-        return node;
-    if (!parent) {
+    if (!node && parent) {
+        makeStep(*parent->ensureNode(), name.text());
+    } else if (!node) {
         node = &own;
         own.handle = this;
-        return node;
     }
-    makeStep(*parent->ensureNode(), name.text());
-    return node;
+    for (const ModuleObjectPrivate *at = this; at; at = at->parent)
+        at->node->dropKeptJson();
+    return const_cast<Node *>(node);
 }
 
 int ModuleObjectPrivate::depth() const
@@ -120,7 +120,7 @@ bool ModuleObjectPrivate::isWatched() const
 
 void ModuleObjectPrivate::letGo(bool element)
 {
-    for (Node &child : *node) {
+    for (const Node &child : *node) {
         if (child.handle)
             child.handle->letGo(element || node->isList());
     }
@@ -146,7 +146,7 @@ void ModuleObjectPrivate::attachPlaceholders()
 {
     for (size_t i = 0; i < placeholders.size();) {
         ModuleObjectPrivate *handle = placeholders[i];
-        Node *found = node->descend(handle->name.text());
+        const Node *found = node->descend(handle->name.text());
         if (!found) {
             ++i;
             continue;
@@ -158,7 +158,7 @@ void ModuleObjectPrivate::attachPlaceholders()
 
 // An element may have been awaited by name and by place: the first handle has it, and as two can't
 // stand for one node, the other goes.
-void ModuleObjectPrivate::attachTo(Node &found)
+void ModuleObjectPrivate::attachTo(const Node &found)
 {
     if (found.handle) {
         retire();
@@ -171,19 +171,20 @@ void ModuleObjectPrivate::attachTo(Node &found)
 
 void ModuleObjectPrivate::takeContent(Node &source)
 {
-    resetContent(*ensureNode(), Node::Kind::Empty);
-    node->takeContent(source);
+    Node *changing = ensureNode();
+    resetContent(*changing, Node::Kind::Empty);
+    changing->takeContent(source);
     attachPlaceholders();
 }
 
 void ModuleObjectPrivate::removeNode()
 {
     if (parent) {
-        Node &above = *parent->node;
-        removeChildAt(above, int(node - above.begin()));
+        Node &above = *parent->ensureNode();
+        removeChildAt(above, int(node - std::as_const(above).begin()));
         return;
     }
-    resetContent(*node, Node::Kind::Empty);
+    resetContent(*ensureNode(), Node::Kind::Empty);
     node->handle = nullptr;
     node = nullptr;
 }
@@ -191,7 +192,7 @@ void ModuleObjectPrivate::removeNode()
 ModuleObjectPrivate *ModuleObjectPrivate::moveBelow(ModuleObjectPrivate *above)
 {
     ensureNode();
-    Node *place = appendChild(*above->node, name.id());
+    Node *place = appendChild(*above->ensureNode(), name.id());
     if (ModuleObjectPrivate *waiting = place->handle) {
         waiting->takeContentOf(*this);
         return waiting;

@@ -30,8 +30,11 @@ public:
 
     /** The handle one step below, made where it is missing. */
     ModuleObjectPrivate *below(QStringView step);
-    ModuleObjectPrivate *handleOf(Node &child);
-    /** The node of this handle, made where it is a placeholder. */
+    ModuleObjectPrivate *handleOf(const Node &child);
+    /**
+     * The node of this handle, to be changed, made where it is a placeholder. What JSON it and the
+     * nodes above keep is dropped: ask anew for each change, and after everything that may export.
+     */
     Node *ensureNode();
     int depth() const;
     bool isListElement() const { return parent && parent->node && parent->node->isList(); }
@@ -63,14 +66,14 @@ public:
     ModuleObject *const q;
     ModuleObjectPrivate *parent;
     Name name;
-    Node *node = nullptr; // null: a placeholder
+    const Node *node = nullptr; // null: a placeholder
     Node own; // the root node of a tree
     std::vector<ModuleObjectPrivate *> placeholders;
     std::unique_ptr<KeyCache> cache; // of the global store's root
     Name key; // under which the cache has this handle
 
 private:
-    void attachTo(Node &found);
+    void attachTo(const Node &found);
     void takeContentOf(ModuleObjectPrivate &other);
     ModuleObjectPrivate *placeholder(QStringView step);
     void dropPlaceholder(ModuleObjectPrivate *handle);

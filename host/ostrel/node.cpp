@@ -8,29 +8,40 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <memory>
 #include <new>
 
 namespace ostrel
 {
 
+/** What few containers have. */
+struct Extras {
+    std::unique_ptr<QHash<NameId, quint32>> index; // places by name, for a lookup among many
+    QJsonValue json {QJsonValue::Undefined}; // what the container was exported as
+};
+
 /** The block of a container's children: this header, then the nodes. */
 struct Children {
-    using Index = QHash<NameId, quint32>;
-
     Node *nodes() { return reinterpret_cast<Node *>(this + 1); }
+    Extras &extras()
+    {
+        if (!extra)
+            extra = new Extras;
+        return *extra;
+    }
 
     quint32 count;
     quint32 capacity;
-    Index *index; // places by name, made by the first lookup among many
+    Extras *extra; // null until it is needed
 };
 
 namespace
 {
 constexpr quint32 indexedFrom = 32; // below, comparing numbers one by one is faster than hashing
 
-void followMoves(Node *from, Node *to)
+void followMoves(const Node *from, const Node *to)
 {
-    for (Node *node = from; node != to; ++node) {
+    for (const Node *node = from; node != to; ++node) {
         if (node->handle)
             node->handle->node = node;
     }
@@ -42,13 +53,13 @@ void moveBytes(Node *to, const Node *from, quint32 count)
     std::memmove(static_cast<void *>(to), static_cast<const void *>(from), count * sizeof(Node));
 }
 
-Children::Index *buildIndex(Children &children)
+void buildIndex(Children &children)
 {
-    auto *index = new Children::Index;
+    auto index = std::make_unique<QHash<NameId, quint32>>();
     index->reserve(int(children.count));
     for (quint32 i = children.count; i-- > 0;)
         index->insert(children.nodes()[i].name(), i);
-    return index;
+    children.extras().index = std::move(index);
 }
 
 int roundedInt(double number, int defaultValue)
@@ -108,7 +119,7 @@ void Node::destroyChildren()
         return;
     for (Node *node = block->nodes(); node != block->nodes() + block->count; ++node)
         node->~Node();
-    delete block->index;
+    delete block->extra;
     std::free(block);
 }
 
@@ -284,37 +295,38 @@ int Node::childCount() const
     return block ? int(block->count) : 0;
 }
 
-Node *Node::begin() const
+const Node *Node::begin() const
 {
     Children *block = children();
     return block ? block->nodes() : nullptr;
 }
 
-Node *Node::childAt(int index) const
+const Node *Node::childAt(int index) const
 {
     return index >= 0 && index < childCount() ? begin() + index : nullptr;
 }
 
-Node *Node::child(NameId name) const
+const Node *Node::child(NameId name) const
 {
     Children *block = children();
     if (!block || !name)
         return nullptr;
     if (block->count >= indexedFrom) {
-        if (!block->index)
-            block->index = buildIndex(*block);
-        const auto place = block->index->constFind(name);
-        return place == block->index->constEnd() ? nullptr : block->nodes() + *place;
+        if (!block->extras().index)
+            buildIndex(*block);
+        const auto &index = *block->extra->index;
+        const auto place = index.constFind(name);
+        return place == index.constEnd() ? nullptr : block->nodes() + *place;
     }
-    Node *const last = block->nodes() + block->count;
-    for (Node *node = block->nodes(); node != last; ++node) {
+    const Node *const last = block->nodes() + block->count;
+    for (const Node *node = block->nodes(); node != last; ++node) {
         if (node->m_name == name)
             return node;
     }
     return nullptr;
 }
 
-Node *Node::descend(QStringView step) const
+const Node *Node::descend(QStringView step) const
 {
     const int index = isList() ? listIndex(step) : -1;
     return index >= 0 ? childAt(index) : child(NameTable::instance().find(step));
@@ -345,12 +357,13 @@ void Node::reserve(int count)
 Node *Node::append(NameId name)
 {
     Q_ASSERT(isContainer());
+    dropKeptJson();
     Children *block = m_payload.children;
     if (!block || block->count == block->capacity)
         block = resize(block ? block->count + block->count / 2 + 1 : 2);
     Node *node = new (block->nodes() + block->count) Node(name);
-    if (block->index && !block->index->contains(name))
-        block->index->insert(name, block->count);
+    if (block->extra && block->extra->index && !block->extra->index->contains(name))
+        block->extra->index->insert(name, block->count);
     ++block->count;
     return node;
 }
@@ -358,8 +371,8 @@ Node *Node::append(NameId name)
 void Node::removeAt(int index)
 {
     Children *block = m_payload.children;
-    delete block->index;
-    block->index = nullptr;
+    delete block->extra;
+    block->extra = nullptr;
     Node *node = block->nodes() + index;
     node->~Node();
     --block->count;
@@ -400,6 +413,25 @@ void Node::takeContent(Node &source)
     m_kind = source.m_kind;
     source.m_kind = Kind::Empty;
     source.m_payload.integer = 0;
+}
+
+QJsonValue Node::keptJson() const
+{
+    const Children *block = children();
+    return block && block->extra ? block->extra->json : QJsonValue(QJsonValue::Undefined);
+}
+
+void Node::keepJson(const QJsonValue &json) const
+{
+    if (Children *block = children())
+        block->extras().json = json;
+}
+
+void Node::dropKeptJson() const
+{
+    const Children *block = children();
+    if (block && block->extra)
+        block->extra->json = QJsonValue::Undefined;
 }
 
 } // namespace ostrel

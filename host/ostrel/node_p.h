@@ -4,6 +4,7 @@
 
 #include <QJsonValue>
 #include <QVariant>
+#include <utility>
 
 namespace ostrel
 {
@@ -18,6 +19,11 @@ int listIndex(QStringView step);
  * One place of a tree: a value, or children. 24 bytes; children lie side by side in one block, so a
  * node moves when its siblings come and go. A node that someone asked for has a handle, which
  * follows those moves. A node with a handle hangs below nodes with handles only.
+ *
+ * A container may keep the JSON that it was exported as. Who changes a node changes all that it
+ * lies in: each change of a node drops its kept JSON, and so does each way down to a child that may
+ * be changed. Reading goes through const nodes, which drop nothing. What lies above the node where
+ * a change starts is ModuleObjectPrivate::ensureNode()'s business.
  */
 class Node
 {
@@ -67,13 +73,17 @@ public:
 
     // The children: valid until the next change of this node's children
     int childCount() const;
-    Node *childAt(int index) const;
-    Node *begin() const;
-    Node *end() const { return begin() + childCount(); }
+    const Node *childAt(int index) const;
+    const Node *begin() const;
+    const Node *end() const { return begin() + childCount(); }
     /** The first child of that name. */
-    Node *child(NameId name) const;
+    const Node *child(NameId name) const;
     /** The child at one step of a path: "#n" counts in a list, all else is a name. */
-    Node *descend(QStringView step) const;
+    const Node *descend(QStringView step) const;
+    // The same, to be changed
+    Node *childAt(int index) { return toChange(std::as_const(*this).childAt(index)); }
+    Node *child(NameId name) { return toChange(std::as_const(*this).child(name)); }
+    Node *descend(QStringView step) { return toChange(std::as_const(*this).descend(step)); }
     /** Appends an empty child to a container; takes over one reference to name. */
     Node *append(NameId name);
     /** Makes room for as many children and no more. */
@@ -87,7 +97,13 @@ public:
     /** Replaces the content by that of source, which is empty then. */
     void takeContent(Node &source);
 
-    ModuleObjectPrivate *handle = nullptr;
+    /** The JSON that this container was exported as, if it is kept; else undefined. */
+    QJsonValue keptJson() const;
+    void keepJson(const QJsonValue &json) const;
+    void dropKeptJson() const;
+
+    // A handle stands beside the content: giving a node one changes nothing.
+    mutable ModuleObjectPrivate *handle = nullptr;
 
 private:
     union Payload {
@@ -105,6 +121,11 @@ private:
     };
 
     Children *children() const { return isContainer() ? m_payload.children : nullptr; }
+    Node *toChange(const Node *child)
+    {
+        dropKeptJson();
+        return const_cast<Node *>(child);
+    }
     Children *resize(quint32 capacity);
     void destroyContent();
     void destroyChildren();

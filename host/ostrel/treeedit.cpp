@@ -7,17 +7,17 @@ namespace ostrel
 
 namespace
 {
-void letGoChildren(Node &node)
+void letGoChildren(const Node &node)
 {
     if (!node.handle)
         return;
-    for (Node &child : node) {
+    for (const Node &child : node) {
         if (child.handle)
             child.handle->letGo(node.isList());
     }
 }
 
-void attachPlaceholders(Node &node)
+void attachPlaceholders(const Node &node)
 {
     if (node.handle)
         node.handle->attachPlaceholders();
@@ -38,7 +38,7 @@ void resetContent(Node &node, Node::Kind kind)
 
 void removeChildAt(Node &parent, int index)
 {
-    Node *child = parent.childAt(index);
+    const Node *child = parent.childAt(index);
     if (child->handle)
         child->handle->letGo(parent.isList());
     parent.removeAt(index);
@@ -78,7 +78,7 @@ Node *makePath(Node &node, const QString &path, int depth)
     return at;
 }
 
-Node *findPath(Node *node, const QString &path)
+const Node *findPath(const Node *node, const QString &path)
 {
     if (!node)
         return nullptr;

@@ -25,7 +25,7 @@ Node *makePath(Node &node, const QString &path, int depth);
 Node *makeStep(Node &node, QStringView step);
 
 /** The node that lies path below node, or null. */
-Node *findPath(Node *node, const QString &path);
+const Node *findPath(const Node *node, const QString &path);
 
 /** Calls step(QStringView) for each step of a dotted path until it returns false. */
 template <typename Step>

@@ -26,10 +26,15 @@ QString selectedOr(const QString &given, const QString &key, const QString &stan
 }
 
 // The first record that JSON shows with that name: one whose name is no text has an empty one.
-int placeOfExactName(const ModuleObject *list, const QString &name)
+int placeOfExactName(ModuleObject *list, const QString &name)
 {
-    if (!name.isEmpty())
-        return list->indexOf(QStringLiteral("name"), name);
+    const QString field = QStringLiteral("name");
+    const int found = list->indexOf(field, name);
+    const auto isText = [&] {
+        return list->childAt(found)->child(field)->value().userType() == QMetaType::QString;
+    };
+    if (!name.isEmpty() && (found < 0 || isText()))
+        return found;
     const QJsonArray records = nodeToJson(list).toArray();
     for (int place = 0; place < records.size(); ++place) {
         if (records.at(place)[QStringLiteral("name")].toString().isEmpty())

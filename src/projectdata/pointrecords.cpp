@@ -13,30 +13,9 @@ namespace
 
 const QString nameField = QStringLiteral("name");
 
-// A record's name is read as a text, whatever it is stored as: a missing one is "", a number its
-// digits. The store looks for texts only.
-bool canBeStoredOtherwise(const QString &name)
-{
-    bool isNumber = false;
-    name.toDouble(&isNumber);
-    return isNumber || name.isEmpty()
-        || name.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0
-        || name.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0;
-}
-
 bool isPointElement(const QString &index)
 {
     return index.startsWith(QLatin1Char('['));
-}
-
-int placeByWalking(ModuleObject *list, const QString &name)
-{
-    const int count = list->childCount();
-    for (int place = 0; place < count; ++place) {
-        if (pointNameAt(list, place).compare(name, Qt::CaseInsensitive) == 0)
-            return place;
-    }
-    return -1;
 }
 
 } // namespace
@@ -54,11 +33,7 @@ QString normalizePointValueIndex(const QString &index)
 
 ModuleObject *findPointByName(ModuleObject *list, const QString &name, int *index)
 {
-    int place = -1;
-    if (list && canBeStoredOtherwise(name))
-        place = placeByWalking(list, name);
-    else if (list)
-        place = list->indexOf(nameField, name, Qt::CaseInsensitive);
+    const int place = list ? list->indexOf(nameField, name, Qt::CaseInsensitive) : -1;
     if (index)
         *index = place;
     return place < 0 ? nullptr : list->childAt(place);

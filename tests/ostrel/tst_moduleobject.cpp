@@ -279,8 +279,10 @@ private Q_SLOTS:
             nullptr, R"([{"name":"a"},{"x":1},{"name":"P1"},{"name":5},{"name":"p1"},7])"));
         QCOMPARE(list.indexOf("name", "p1"), 4);
         QCOMPARE(list.indexOf("name", "p1", Qt::CaseInsensitive), 2);
-        QCOMPARE(list.indexOf("name", "5"), -1);
+        QCOMPARE(list.indexOf("name", "5"), 3);
+        QCOMPARE(list.indexOf("name", ""), 1);
         QCOMPARE(list.indexOf("no such field", "a"), -1);
+        QCOMPARE(list.indexOf("no such field", ""), 0);
 
         list.set(nullptr, "#0.name", "p1", true);
         QCOMPARE(list.indexOf("name", "p1"), 0);

@@ -1,6 +1,8 @@
 #include "control.h"
 
+#include "controlio.h"
 #include "controlmotion.h"
+#include "controlproject.h"
 #include "controlwords.h"
 
 #include <QJsonArray>
@@ -208,12 +210,24 @@ ControlLine parseState(Words &words)
 ControlLine ControlLine::parse(const QString &line)
 {
     static const std::map<QString, Parser> parsers {
-        {QStringLiteral("answer"), parseAnswer}, {QStringLiteral("count"), parseCount},
-        {QStringLiteral("drop"), parseDrop},     {QStringLiteral("fault"), parseFault},
-        {QStringLiteral("files"), parseFiles},   {QStringLiteral("frame"), parseFrame},
-        {QStringLiteral("hub"), parseHub},       {QStringLiteral("last"), parseLast},
-        {QStringLiteral("notify"), parseNotify}, {QStringLiteral("program"), parseProgram},
-        {QStringLiteral("set"), parseSet},       {QStringLiteral("state"), parseState},
+        {QStringLiteral("answer"), parseAnswer},
+        {QStringLiteral("count"), parseCount},
+        {QStringLiteral("drop"), parseDrop},
+        {QStringLiteral("fault"), parseFault},
+        {QStringLiteral("files"), parseFiles},
+        {QStringLiteral("frame"), parseFrame},
+        {QStringLiteral("hub"), parseHub},
+        {QStringLiteral("last"), parseLast},
+        {QStringLiteral("notify"), parseNotify},
+        {QStringLiteral("point"), parsePoint},
+        {QStringLiteral("program"), parseProgram},
+        {QStringLiteral("project"), parseProject},
+        {QStringLiteral("register"), parseRegister},
+        {QStringLiteral("set"), parseSet},
+        {QStringLiteral("signal"), parseSignal},
+        {QStringLiteral("simulation"), parseSimulation},
+        {QStringLiteral("state"), parseState},
+        {QStringLiteral("var"), parseVariable},
     };
     Words words(line);
     const QString name = words.next();

@@ -64,6 +64,9 @@ Refusal HubData::set(const QString &key, const QJsonValue &value)
 {
     if (auto refusal = checkKey(key))
         return refusal;
+    const Guard guard = m_guards.value(key);
+    if (const Refusal refusal = guard ? guard(value) : std::nullopt)
+        return refusal;
     if (this->value(key) == value)
         return std::nullopt;
     const auto values = placed(m_values, key.split(QLatin1Char('.')), 0, value);

@@ -2,8 +2,10 @@
 
 #include "refusal.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <QObject>
+#include <functional>
 
 namespace simulator
 {
@@ -22,6 +24,11 @@ public:
      *  them, and for one below a key that holds a plain value: a tree cannot show both. */
     Refusal set(const QString &key, const QJsonValue &value);
 
+    /** Says why a key can't be set to a value; nothing where it can. */
+    using Guard = std::function<Refusal(const QJsonValue &value)>;
+    /** From now on set() asks the guard about this key. */
+    void addGuard(const QString &key, const Guard &guard) { m_guards.insert(key, guard); }
+
     const QJsonObject &snapshot() const { return m_values; }
 
     /** Why a text is no key; nothing where it is one. */
@@ -33,6 +40,7 @@ signals:
 
 private:
     QJsonObject m_values;
+    QHash<QString, Guard> m_guards;
 };
 
 } // namespace simulator

@@ -1,6 +1,7 @@
 #include "jsonreader.h"
 
 #include <QJsonArray>
+#include <algorithm>
 #include <cmath>
 
 namespace simulator
@@ -8,6 +9,8 @@ namespace simulator
 
 namespace
 {
+constexpr int kMaxName = 255;
+
 QString typeOf(const QJsonValue &value)
 {
     switch (value.type()) {
@@ -64,6 +67,35 @@ QString JsonReader::text(const QString &name, const QString &byDefault)
     if (!value(name).isString())
         report(name, expected(QStringLiteral("a text"), value(name)));
     return value(name).toString(byDefault);
+}
+
+QString JsonReader::name(const QString &member)
+{
+    const QString name = text(member, QString());
+    const bool isPlain = std::none_of(name.cbegin(), name.cend(),
+                                      [](QChar c) { return c.category() == QChar::Other_Control; });
+    if (name.isEmpty() || name.size() > kMaxName || !isPlain)
+        report(member, QStringLiteral("expected a name of 1 to %1 characters").arg(kMaxName));
+    return name;
+}
+
+QStringList JsonReader::texts(const QString &name)
+{
+    QStringList texts;
+    for (const QJsonValue &text : array(name)) {
+        if (!text.isString())
+            m_error.report(elementPath(pathOf(name), texts.size()),
+                           expected(QStringLiteral("a text"), text));
+        texts += text.toString();
+    }
+    return texts;
+}
+
+bool JsonReader::flag(const QString &name, bool byDefault)
+{
+    if (has(name) && !value(name).isBool())
+        report(name, expected(QStringLiteral("a truth value"), value(name)));
+    return value(name).toBool(byDefault);
 }
 
 int JsonReader::integer(const QString &name, int byDefault, int min, int max)
@@ -134,6 +166,11 @@ void JsonReader::report(const QString &name, const QString &problem)
 QString JsonReader::pathOf(const QString &name) const
 {
     return m_path.isEmpty() ? name : m_path + QLatin1Char('.') + name;
+}
+
+QString elementPath(const QString &array, int index)
+{
+    return QStringLiteral("%1[%2]").arg(array, QString::number(index));
 }
 
 } // namespace simulator

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -31,6 +33,11 @@ public:
 
     bool has(const QString &name) const { return m_object.contains(name); }
     QString text(const QString &name, const QString &byDefault);
+    /** A text that serves as a name: 1 to 255 characters, no control characters; it has to be
+     * there. */
+    QString name(const QString &member);
+    QStringList texts(const QString &name);
+    bool flag(const QString &name, bool byDefault);
     int integer(const QString &name, int byDefault, int min, int max);
     /** The index of the member's text among the choices. */
     int choice(const QString &name, const QStringList &choices, int byDefault);
@@ -48,5 +55,37 @@ private:
     QString m_path;
     JsonError &m_error;
 };
+
+/** "array[3]" */
+QString elementPath(const QString &array, int index);
+
+/** The elements of an array as read(value, path, error) reads them. */
+template <typename Element>
+QVector<Element> readArray(const QJsonArray &array, const QString &path, JsonError &error,
+                           Element (*read)(const QJsonValue &, const QString &, JsonError &))
+{
+    QVector<Element> elements;
+    for (const QJsonValue &value : array)
+        elements += read(value, elementPath(path, elements.size()), error);
+    return elements;
+}
+
+/** The same for a member whose elements have a `name` of their own each. */
+template <typename Element>
+QVector<Element> readNamed(JsonReader &reader, const QString &member, JsonError &error,
+                           Element (*read)(const QJsonValue &, const QString &, JsonError &))
+{
+    const QVector<Element> elements
+        = readArray(reader.array(member), reader.pathOf(member), error, read);
+    QSet<QString> names;
+    for (int i = 0; i < elements.size(); ++i) {
+        const QString name = elements.at(i).name;
+        if (names.contains(name))
+            error.report(elementPath(reader.pathOf(member), i),
+                         QStringLiteral("'%1' is there twice").arg(name));
+        names.insert(name);
+    }
+    return elements;
+}
 
 } // namespace simulator

@@ -3,7 +3,9 @@
 #include "control.h"
 #include "framesreader.h"
 #include "hubdata.h"
+#include "ioreader.h"
 #include "jsonreader.h"
+#include "projectreader.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -18,11 +20,7 @@ namespace
 constexpr qint64 kMaxFileSize = qint64(16) * 1024 * 1024;
 constexpr int kMaxStepMs = 24 * 3600 * 1000;
 constexpr int kMinStepMs = 10;
-
-QString elementPath(const QString &array, int index)
-{
-    return QStringLiteral("%1[%2]").arg(array).arg(index);
-}
+constexpr int kProgramStepMs = 1000;
 
 RobotState::Values readRobot(const QJsonValue &value, JsonError &error)
 {
@@ -149,14 +147,16 @@ TimelineStep readStep(const QJsonValue &value, const QString &path, JsonError &e
     return step;
 }
 
-template <typename Element>
-QVector<Element> readArray(const QJsonArray &array, const QString &path, JsonError &error,
-                           Element (*read)(const QJsonValue &, const QString &, JsonError &))
+Program::Values readProgram(const QJsonValue &value, JsonError &error)
 {
-    QVector<Element> elements;
-    for (const QJsonValue &value : array)
-        elements += read(value, elementPath(path, elements.size()), error);
-    return elements;
+    if (value.isUndefined())
+        return {};
+    JsonReader reader(value, QStringLiteral("program"), error);
+    reader.allowOnly({QStringLiteral("every"), QStringLiteral("do")});
+    Program::Values program;
+    program.every = reader.integer(QStringLiteral("every"), kProgramStepMs, kMinStepMs, kMaxStepMs);
+    program.lines = readLines(reader, error);
+    return program;
 }
 
 Scenario readScenario(const QJsonObject &document, JsonError &error)
@@ -164,7 +164,10 @@ Scenario readScenario(const QJsonObject &document, JsonError &error)
     JsonReader reader(document, QString(), error);
     reader.allowOnly({QStringLiteral("robot"), QStringLiteral("hub"), QStringLiteral("answers"),
                       QStringLiteral("faults"), QStringLiteral("timeline"), QStringLiteral("tools"),
-                      QStringLiteral("wobjs")});
+                      QStringLiteral("wobjs"), QStringLiteral("io"), QStringLiteral("registers"),
+                      QStringLiteral("project"), QStringLiteral("system_variables"),
+                      QStringLiteral("variables"), QStringLiteral("hot_update"),
+                      QStringLiteral("program")});
     Scenario scenario;
     scenario.robot = readRobot(reader.value(QStringLiteral("robot")), error);
     scenario.frames = readFrames(reader, error);
@@ -175,6 +178,13 @@ Scenario readScenario(const QJsonObject &document, JsonError &error)
                                 error, readFault);
     scenario.timeline = readArray(reader.array(QStringLiteral("timeline")),
                                   QStringLiteral("timeline"), error, readStep);
+    scenario.io = readIo(reader, error);
+    scenario.registers = readRegisters(reader, error);
+    scenario.project = readProject(reader, error);
+    scenario.systemVariables = readSystemVariables(reader, error);
+    scenario.variables = readVariables(reader, error);
+    scenario.hotUpdate = readHotUpdate(reader, error);
+    scenario.program = readProgram(reader.value(QStringLiteral("program")), error);
     return scenario;
 }
 

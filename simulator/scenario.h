@@ -4,7 +4,14 @@
 #include "faults.h"
 #include "fileserver.h"
 #include "frames.h"
+#include "hotupdate.h"
+#include "iosignals.h"
+#include "program.h"
+#include "projects.h"
+#include "registers.h"
 #include "robotstate.h"
+#include "systemvariables.h"
+#include "variables.h"
 
 #include <QJsonObject>
 #include <QStringList>
@@ -29,6 +36,13 @@ struct Scenario {
     Answers answers;
     QVector<Fault> faults;
     QVector<TimelineStep> timeline;
+    IoSignals::Values io;
+    Registers::Values registers;
+    Projects::Values project;
+    SystemVariables systemVariables = defaultSystemVariables();
+    QVector<Variables::Variable> variables;
+    QVector<HotUpdateRule> hotUpdate;
+    Program::Values program;
     FileOptions files; ///< no member of a scenario file
 
     /** Nothing where the file can't be read or is no scenario; then `error` names the file, the

@@ -1,10 +1,15 @@
 #include "simulator.h"
 
+#include "changecollector.h"
 #include "control.h"
 #include "endpoint.h"
 #include "hubcommands.h"
+#include "iocommands.h"
+#include "monitor.h"
 #include "programcommands.h"
+#include "projectcommands.h"
 #include "statecommands.h"
+#include "systemio.h"
 #include "timeline.h"
 
 #include <QJsonArray>
@@ -22,6 +27,13 @@ public:
         , answers(scenario.answers)
         , timeline(scenario.timeline)
         , files(scenario.files)
+        , io(scenario.io)
+        , registers(scenario.registers)
+        , projects(scenario.project, files.root())
+        , systemVariables(scenario.systemVariables)
+        , variables(scenario.variables)
+        , program(scenario.program)
+        , hotUpdate(hubKeys, scenario.hotUpdate, variables)
     {
         for (const Fault &fault : scenario.faults)
             faults.add(fault);
@@ -35,13 +47,26 @@ public:
     RequestLog requests;
     Timeline timeline;
     FileServer files;
+    IoSignals io;
+    Registers registers;
+    Projects projects;
+    SystemVariables systemVariables;
+    Variables variables;
+    Program program;
+    SystemIo systemIo {io, robot};
+    ChangeCollector signalChanges;
 
     CommandRegistry controllerRegistry {answers.controller};
     StateCommands stateCommands {controllerRegistry, robot};
     ProgramCommands programCommands {controllerRegistry, robot};
+    IoCommands ioCommands {controllerRegistry, io, registers};
     CommandRegistry hubRegistry;
     CommandRegistry hubKeys {answers.hub}; ///< what `hub.command` carries out, by key
     HubCommands hubCommands {hubRegistry, hub, answers, hubKeys};
+    ProjectCommands projectCommands {
+        controllerRegistry, hubKeys, {projects, frames, systemVariables, robot}};
+    HotUpdate hotUpdate;
+    Monitor monitor {hubKeys, {hub, variables, robot}};
 
     Endpoint controllerEnd {QStringLiteral("controller"), {controllerRegistry, faults, requests}};
     Endpoint hubEnd {QStringLiteral("hub"), {hubRegistry, faults, requests}};
@@ -52,23 +77,61 @@ Simulator::Simulator(const Scenario &scenario, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>(scenario))
 {
-    connect(&d->robot, &RobotState::changed, this,
-            [this] { notify(QStringLiteral("system.state"), d->robot.toJson()); });
+    connectReports();
     connect(&d->hub, &HubData::changed, this, [this](const QString &key, const QJsonValue &value) {
         d->hubEnd.notify(QStringLiteral("hub.changed"),
                          {{QStringLiteral("key"), key}, {QStringLiteral("value"), value}});
     });
     connect(&d->faults, &Faults::conditionsChanged, this, &Simulator::applyConditions);
-    connect(&d->timeline, &Timeline::due, this, [this](const QString &line) {
-        const Reply reply = control(line);
-        if (!reply.isDone())
-            emit problem(QStringLiteral("timeline: %1: %2").arg(line, reply.reason));
-    });
+    connect(&d->timeline, &Timeline::due, this,
+            [this](const QString &line) { carryOut(QStringLiteral("timeline"), line); });
+    connect(&d->program, &Program::due, this,
+            [this](const QString &line) { carryOut(QStringLiteral("program"), line); });
+    connect(&d->robot, &RobotState::changed, this,
+            [this] { d->program.setRunning(d->robot.values().program); });
+    connect(&d->projects, &Projects::opened, this, &Simulator::loadProject);
     connect(&d->files, &FileServer::problem, this, &Simulator::problem);
     for (Endpoint *endpoint : {&d->controllerEnd, &d->hubEnd}) {
         connect(endpoint, &Endpoint::received, this, &Simulator::received);
         connect(endpoint, &Endpoint::problem, this, &Simulator::problem);
     }
+}
+
+void Simulator::connectReports()
+{
+    const auto report = [this](auto *source, auto changed, const char *path, auto value) {
+        connect(source, changed, this,
+                [this, name = QString::fromLatin1(path), value] { notify(name, value()); });
+    };
+    report(&d->robot, &RobotState::changed, "system.state", [this] { return d->robot.toJson(); });
+    report(&d->io, &IoSignals::stateChanged, "io.state", [this] { return d->io.toJson(); });
+    report(&d->registers, &Registers::changed, "register.state",
+           [this] { return d->registers.toJson(); });
+    report(&d->projects, &Projects::changed, "project.overview",
+           [this] { return d->projects.toJson(); });
+    report(&d->frames, &Frames::changed, "project.frames",
+           [this] { return d->projectCommands.framesToJson(); });
+    connect(&d->io, &IoSignals::valueChanged, &d->signalChanges, &ChangeCollector::add);
+    connect(&d->signalChanges, &ChangeCollector::due, this, [this](const QJsonObject &changes) {
+        notify(QStringLiteral("io.signal_value"), changes);
+    });
+}
+
+void Simulator::loadProject()
+{
+    QString error;
+    d->variables.setProject(
+        readVariableFile(d->projects.filePath(QStringLiteral("var.json")), &error));
+    d->hotUpdate.forgetPoints();
+    if (!error.isEmpty())
+        emit problem(QStringLiteral("project: ") + error);
+}
+
+void Simulator::carryOut(const QString &origin, const QString &line)
+{
+    const Reply reply = control(line);
+    if (!reply.isDone())
+        emit problem(QStringLiteral("%1: %2: %3").arg(origin, line, reply.reason));
 }
 
 Simulator::~Simulator()
@@ -87,6 +150,9 @@ bool Simulator::start(quint16 controllerPort, quint16 hubPort, QString *error)
         return false;
     }
     applyConditions();
+    if (const Refusal refusal = d->projects.load())
+        emit problem(QStringLiteral("project: ") + *refusal);
+    d->program.setRunning(d->robot.values().program);
     d->timeline.start();
     return true;
 }
@@ -145,6 +211,26 @@ Frames &Simulator::frames()
     return d->frames;
 }
 
+IoSignals &Simulator::io()
+{
+    return d->io;
+}
+
+Registers &Simulator::registers()
+{
+    return d->registers;
+}
+
+Projects &Simulator::projects()
+{
+    return d->projects;
+}
+
+Variables &Simulator::variables()
+{
+    return d->variables;
+}
+
 HubData &Simulator::hub()
 {
     return d->hub;
@@ -163,6 +249,16 @@ Answers &Simulator::answers()
 RequestLog &Simulator::requests()
 {
     return d->requests;
+}
+
+Refusal Simulator::openProject(const QString &name)
+{
+    return d->projectCommands.open(name);
+}
+
+QJsonObject Simulator::points() const
+{
+    return d->hotUpdate.points();
 }
 
 void Simulator::notify(const QString &path, const QJsonValue &value)
@@ -205,6 +301,7 @@ QJsonObject Simulator::state() const
             {QStringLiteral("files"),
              QJsonObject {{QStringLiteral("port"), d->files.port()},
                           {QStringLiteral("up"), d->files.isOpen()}}},
+            {QStringLiteral("project"), d->projects.current()},
             {QStringLiteral("watches"), QJsonArray::fromStringList(d->hubEnd.watches())},
             {QStringLiteral("faults"), faults}};
 }

@@ -5,10 +5,14 @@
 #include "fileserver.h"
 #include "frames.h"
 #include "hubdata.h"
+#include "iosignals.h"
+#include "projects.h"
+#include "registers.h"
 #include "reply.h"
 #include "requestlog.h"
 #include "robotstate.h"
 #include "scenario.h"
+#include "variables.h"
 
 #include <QObject>
 #include <memory>
@@ -44,10 +48,19 @@ public:
 
     RobotState &robot();
     Frames &frames();
+    IoSignals &io();
+    Registers &registers();
+    Projects &projects();
+    Variables &variables();
     HubData &hub();
     Faults &faults();
     Answers &answers();
     RequestLog &requests();
+
+    /** By the rules that hold for a client, too. */
+    Refusal openProject(const QString &name);
+    /** The points that hot updates told of, by their names. */
+    QJsonObject points() const;
 
     /** Sends a value on a notify path to all clients of the controller. */
     void notify(const QString &path, const QJsonValue &value);
@@ -70,6 +83,9 @@ signals:
 
 private:
     void applyConditions();
+    void connectReports();
+    void loadProject();
+    void carryOut(const QString &origin, const QString &line);
 
     class Private;
     std::unique_ptr<Private> d;

@@ -101,8 +101,9 @@ void DesktopTools::provideRsync() const
         return;
     const QString rsync = QStandardPaths::findExecutable(QStringLiteral("rsync"));
     if (rsync.isEmpty()) {
-        errorLine() << tr("rsync is not installed: nothing can be copied to the controller. Install "
-                          "rsync and start the panel again.");
+        errorLine() << tr(
+            "rsync is not installed: nothing can be copied to the controller. Install "
+            "rsync and start the panel again.");
         return;
     }
     const QFileInfo present(path);

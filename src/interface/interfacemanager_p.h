@@ -6,6 +6,12 @@
 #include <QMap>
 #include <QMetaObject>
 #include <QString>
+#include <QStringList>
+
+namespace ostrel
+{
+class ModuleObject;
+}
 
 namespace zeplet
 {
@@ -30,6 +36,15 @@ public:
 
     /** name and a number that no task of this process had before. */
     QString createTaskId(const QString &name);
+
+    /** Tells the controller of new ("add") or changed ("edit") variables at these places of the
+     *  list; an edit names what each was called before. True when the controller took them. */
+    bool hotUpdateVar(const QString &operation, const QList<int> &indexes,
+                      const QStringList &oldNames);
+    /** Has the controller give up variables; true when it agreed. */
+    bool hotRemoveVar(const QList<ostrel::ModuleObject *> &records);
+    /** Writes var.json of the open project and pushes it. */
+    bool saveAndPushVar();
 
     Connections nexoConnections; ///< per service key
     Subscriptions nexoSubscriptions; ///< per service key, ids on the bus

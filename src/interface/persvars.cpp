@@ -2,6 +2,7 @@
 
 #include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
+#include <zeplet/interface/controllerversions_p.h>
 #include <zeplet/interface/finite_p.h>
 #include <zeplet/interface/nodejson_p.h>
 #include <zeplet/log/hostlines_p.h>
@@ -16,10 +17,8 @@ enum Result { Sent = 0, InvalidInput = -1, UnsupportedVersion = -240 };
 
 bool isSupported()
 {
-    for (const char *version : {"2.3", "3.0", "3.1", "3.2"}) {
-        if (checkBrisaVersion(QLatin1String(version)))
-            return true;
-    }
+    if (isController23To32())
+        return true;
     statusLine() << QStringLiteral("checkBrisaVersion err!")
                  << QStringLiteral(" current Brisa version : ")
                  << m(QStringLiteral("brisa.r.version"), nullptr)->getStr(QString());

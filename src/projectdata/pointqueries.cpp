@@ -5,6 +5,7 @@
 #include <zeplet/log/hostlines_p.h>
 #include <zeplet/projectdata/pointfields_p.h>
 #include <zeplet/projectdata/pointrecords_p.h>
+#include <zeplet/projectdata/projectrecords_p.h>
 #include <zeplet/projectdata/robotposition_p.h>
 
 namespace zeplet
@@ -23,24 +24,6 @@ void writeElementError(const QString &problem, const QString &name, const QStrin
 QString selectedOr(const QString &given, const QString &key, const QString &standard)
 {
     return given.isEmpty() ? m(key)->getStr(standard) : given;
-}
-
-// The first record that JSON shows with that name: one whose name is no text has an empty one.
-int placeOfExactName(ModuleObject *list, const QString &name)
-{
-    const QString field = QStringLiteral("name");
-    const int found = list->indexOf(field, name);
-    const auto isText = [&] {
-        return list->childAt(found)->child(field)->value().userType() == QMetaType::QString;
-    };
-    if (!name.isEmpty() && (found < 0 || isText()))
-        return found;
-    const QJsonArray records = nodeToJson(list).toArray();
-    for (int place = 0; place < records.size(); ++place) {
-        if (records.at(place)[QStringLiteral("name")].toString().isEmpty())
-            return place;
-    }
-    return -1;
 }
 
 } // namespace

@@ -65,9 +65,7 @@ ModuleObject *pointList()
 
 QString pointNameAt(ModuleObject *list, int place)
 {
-    if (list->isList())
-        return list->getStr(QStringLiteral("#%1.name").arg(place), QString());
-    return list->childAt(place)->getStr(nameField, QString());
+    return recordText(list, place, nameField);
 }
 
 ModuleObject *pointValue(ModuleObject *point)

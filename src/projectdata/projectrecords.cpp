@@ -5,6 +5,8 @@
 #include <zeplet/interface/nodejson_p.h>
 #include <zeplet/log/hostlines_p.h>
 
+#include <QJsonArray>
+
 namespace zeplet
 {
 
@@ -18,6 +20,32 @@ ModuleObject *recordTree(const QString &kind)
 ModuleObject *recordList(const QString &kind)
 {
     return recordTree(kind)->r(QStringLiteral("_list"));
+}
+
+QString recordText(ModuleObject *list, int place, const QString &field)
+{
+    if (list->isList())
+        return list->getStr(QStringLiteral("#%1.%2").arg(QString::number(place), field), QString());
+    const ModuleObject *record = list->childAt(place);
+    return record ? record->getStr(field, QString()) : QString();
+}
+
+int placeOfExactName(ModuleObject *list, const QString &name)
+{
+    const QString field = QStringLiteral("name");
+    const int found = list->indexOf(field, name);
+    const auto isText = [&] {
+        return list->childAt(found)->child(field)->value().userType() == QMetaType::QString;
+    };
+    if (!name.isEmpty() && (found < 0 || isText()))
+        return found;
+    // A record whose name is no text has an empty one in JSON.
+    const QJsonArray records = nodeToJson(list).toArray();
+    for (int place = 0; place < records.size(); ++place) {
+        if (records.at(place)[field].toString() == name)
+            return place;
+    }
+    return -1;
 }
 
 std::unique_ptr<ModuleObject> newRecord(const QString &kind)

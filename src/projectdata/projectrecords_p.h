@@ -17,6 +17,11 @@ ostrel::ModuleObject *recordTree(const QString &kind);
 /** The list of records of the open project, in order of creation. */
 ostrel::ModuleObject *recordList(const QString &kind);
 
+/** A field of the record at that place, "" where there is none. Makes no handles in a list. */
+QString recordText(ostrel::ModuleObject *list, int place, const QString &field);
+/** The place of the first record that has exactly that name in JSON; -1 where there is none. */
+int placeOfExactName(ostrel::ModuleObject *list, const QString &name);
+
 /** A record of its own, a copy of the template. */
 std::unique_ptr<ostrel::ModuleObject> newRecord(const QString &kind);
 /** Puts a record at the end of the list and tells its watchers. Returns the record in the list;

@@ -57,7 +57,8 @@ private Q_SLOTS:
     {
         for (int start = 0; start < 2; ++start) {
             panel::DesktopTools("a run").provide();
-            QCOMPARE(qgetenv("PATH"), QDir("a run/standins").absolutePath().toUtf8() + ':' + m_path);
+            QCOMPARE(qgetenv("PATH"),
+                     QDir("a run/standins").absolutePath().toUtf8() + ':' + m_path);
             QCOMPARE(shell("echo secret | sudo -S chown -R nobody:nobody /nowhere"),
                      QByteArray("0"));
             QCOMPARE(QFileInfo("a run/tools/rsync.exe").symLinkTarget(), m_rsync);

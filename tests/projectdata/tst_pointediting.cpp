@@ -30,6 +30,36 @@ InterfaceManager *manager()
     return zepletInterface();
 }
 
+// Each operation with its arguments, to be called later.
+Edit create(const QString &name)
+{
+    return [=] { return manager()->createPoint(name, true, false); };
+}
+Edit cart(const QString &name, const QVector<double> &values, const QString &index = {})
+{
+    return [=] { return manager()->setPointCartData(name, values, index); };
+}
+Edit joints(const QString &name, const QVector<double> &values, const QString &index = {})
+{
+    return [=] { return manager()->setPointJointData(name, values, index); };
+}
+Edit object(const QString &name, const QJsonObject &element, const QString &index = {})
+{
+    return [=] { return manager()->setPointElementJson(name, index, element); };
+}
+Edit ensure(const QString &name, const QString &index)
+{
+    return [=] { return manager()->ensurePointElement(name, index); };
+}
+Edit remove(const QString &name)
+{
+    return [=] { return manager()->removePoint(name); };
+}
+Edit removeElement(const QString &name, const QString &index)
+{
+    return [=] { return manager()->removePointElement(name, index); };
+}
+
 QJsonObject deep(int levels)
 {
     QJsonValue value = 1;
@@ -55,80 +85,36 @@ private Q_SLOTS:
     void whatIsWrongChangesNothing_data()
     {
         const auto row = testcolumns<Edit, QString>("edit", "error");
-        const QString cart = "setPointCartData: ";
-        const QString joint = "setPointJointData: ";
-        const QString element = "setPointElementJson: ";
-        const QString remove = "removePointElement: ";
+        const QString cartName = "setPointCartData: ";
+        const QString jointName = "setPointJointData: ";
+        const QString removeName = "removePointElement: ";
         const QString nowhere = "index not found, name=P1 index=[2][0][0]";
-        row(
-            "no name", [] { return manager()->createPoint(" ", true, true); }, "");
-        row(
-            "name taken", [] { return manager()->createPoint(" p1 ", true, true); },
-            "createPoint: already exists, name=p1");
-        row(
-            "short pose",
-            [] {
-                return manager()->setPointCartData("P1", {1, 2, 3, 4, 5}, "");
-            },
-            cart + "xyz_abc size < 6");
-        row(
-            "pose nowhere", [] { return manager()->setPointCartData("x", pose, ""); },
-            cart + "point not found, name=x");
-        row(
-            "pose, no element", [] { return manager()->setPointCartData("P1", pose, "[2]"); },
-            cart + "value " + nowhere);
-        row(
-            "infinite pose",
-            [] {
-                return manager()->setPointCartData("P1", {1, 2, 3, 4, 5, infinite}, "");
-            },
-            cart + "not all values are finite, name=P1");
-        row(
-            "no joints", [] { return manager()->setPointJointData("P1", {}, ""); },
-            joint + "joints empty");
-        row(
-            "joints nowhere", [] { return manager()->setPointJointData("x", {1}, ""); },
-            joint + "point not found, name=x");
-        row(
-            "joints, no value", [] { return manager()->setPointJointData("bare", {1}, ""); },
-            joint + "value index not found, name=bare index=[0][0][0]");
-        row(
-            "joint is no number",
-            [] { return manager()->setPointJointData("P1", {std::nan("")}, ""); },
-            joint + "not all values are finite, name=P1");
-        row(
-            "empty JSON", [] { return manager()->setPointElementJson("P1", "", {}); }, "");
-        row(
-            "JSON nowhere",
-            [] {
-                return manager()->setPointElementJson("x", "", {{"a", 1}});
-            },
-            "");
-        const QString unfit = element + "numbers that are not finite, or too many levels, name=P1";
-        row(
-            "infinite JSON",
-            [] {
-                return manager()->setPointElementJson("P1", "",
-                                                      {{"a", QJsonArray {QJsonValue(infinite)}}});
-            },
-            unfit);
-        row(
-            "deep JSON", [] { return manager()->setPointElementJson("P1", "", deep(65)); }, unfit);
-        row(
-            "ensure nowhere", [] { return manager()->ensurePointElement("x", ""); },
-            "ensurePointElement: point not found, name=x");
-        row(
-            "remove nowhere", [] { return manager()->removePoint("x"); },
-            "removePoint: not found, name=x");
-        row(
-            "remove element nowhere", [] { return manager()->removePointElement("x", ""); },
-            remove + "point not found, name=x");
-        row(
-            "remove no element", [] { return manager()->removePointElement("P1", "[2]"); },
-            remove + nowhere);
-        row(
-            "not an element", [] { return manager()->removePointElement("P1", "note"); },
-            remove + "index not found, name=P1 index=note");
+        const QString unfit
+            = "setPointElementJson: numbers that are not finite, or too many levels, "
+              "name=P1";
+        const QString infinity = "not all values are finite, name=P1";
+        row("no name", create(" "), "");
+        row("name taken", create(" p1 "), "createPoint: already exists, name=p1");
+        row("short pose", cart("P1", {1, 2, 3, 4, 5}), cartName + "xyz_abc size < 6");
+        row("pose nowhere", cart("x", pose), cartName + "point not found, name=x");
+        row("pose, no element", cart("P1", pose, "[2]"), cartName + "value " + nowhere);
+        row("infinite pose", cart("P1", {1, 2, 3, 4, 5, infinite}), cartName + infinity);
+        row("no joints", joints("P1", {}), jointName + "joints empty");
+        row("joints nowhere", joints("x", {1}), jointName + "point not found, name=x");
+        row("joints, no value", joints("bare", {1}),
+            jointName + "value index not found, name=bare index=[0][0][0]");
+        row("joint is no number", joints("P1", {std::nan("")}), jointName + infinity);
+        row("empty JSON", object("P1", {}), "");
+        row("JSON nowhere", object("x", {{"a", 1}}), "");
+        row("infinite JSON", object("P1", {{"a", QJsonArray {QJsonValue(infinite)}}}), unfit);
+        row("deep JSON", object("P1", deep(65)), unfit);
+        row("ensure nowhere", ensure("x", ""), "ensurePointElement: point not found, name=x");
+        row("remove nowhere", remove("x"), "removePoint: not found, name=x");
+        row("remove element nowhere", removeElement("x", ""),
+            removeName + "point not found, name=x");
+        row("remove no element", removeElement("P1", "[2]"), removeName + nowhere);
+        row("not an element", removeElement("P1", "note"),
+            removeName + "index not found, name=P1 index=note");
     }
 
     void whatIsWrongChangesNothing()
@@ -149,52 +135,22 @@ private Q_SLOTS:
     {
         const auto row
             = testcolumns<Edit, QString, QString, QByteArray>("edit", "told", "where", "element");
-        row(
-            "pose",
-            [] { return manager()->setPointCartData("p1", pose + QVector<double> {7}, ""); },
-            "edit 0", "P1", R"({"pose": {"elb": 7, "frame": {"pos": {"x": 1, "y": 2, "z": 3},
-                               "ori": {"euler": {"a": 4, "b": 5, "c": 6}}}}})");
-        row(
-            "joints",
-            [] {
-                return manager()->setPointJointData("P1", {1, 2.5}, "[0]");
-            },
-            "edit 0", "P1", R"({"pose": {"elb": 7}, "inner_pos": [1, 2.5, 0, 0, 0, 0, 0]})");
-        row(
-            "persistent first",
-            [] {
-                return manager()->setPointElementJson("Array", "", {{"b", 2}});
-            },
-            "edit 1", "Array", R"({"b": 2})");
-        row(
-            "persistent other",
-            [] {
-                return manager()->setPointJointData("array", {1, 2, 3, 4, 5, 6, 7, 8}, "[1]");
-            },
-            "", "Array [1][0][0]", R"({"inner_pos": [1, 2, 3, 4, 5, 6, 7], "extern_pos": [8]})");
-        row(
-            "ensured", [] { return manager()->ensurePointElement("array", "[2]"); }, "",
-            "Array [2][0][0]", R"({"a": 1})");
-        row(
-            "ensured, first", [] { return manager()->ensurePointElement("Bare", ""); }, "edit 2",
-            "Bare", "null");
-        row(
-            "index with dots",
-            [] {
-                return manager()->setPointElementJson("Bare", "a.#1", {{"b.c", 1}});
-            },
-            "edit 2", "Bare a.#1", R"({"b.c": 1})");
-        row(
-            "element removed", [] { return manager()->removePointElement("Array", "[1]"); },
-            "edit 1", "Array [1][0][0]", "");
-        row(
-            "created", [] { return manager()->createPoint(" New\t", true, false); }, "add 3", "New",
-            "null");
-        row(
-            "point removed", [] { return manager()->removePoint("p1"); }, "", "P1", "");
-        row(
-            "last element removed", [] { return manager()->removePointElement("p1", ""); }, "",
-            "P1", "");
+        row("pose", cart("p1", pose + QVector<double> {7}), "edit 0", "P1",
+            R"({"pose": {"elb": 7, "frame": {"pos": {"x": 1, "y": 2, "z": 3},
+                                             "ori": {"euler": {"a": 4, "b": 5, "c": 6}}}}})");
+        row("joints", joints("P1", {1, 2.5}, "[0]"), "edit 0", "P1",
+            R"({"pose": {"elb": 7}, "inner_pos": [1, 2.5, 0, 0, 0, 0, 0]})");
+        row("persistent first", object("Array", {{"b", 2}}), "edit 1", "Array", R"({"b": 2})");
+        row("persistent other", joints("array", {1, 2, 3, 4, 5, 6, 7, 8}, "[1]"), "",
+            "Array [1][0][0]", R"({"inner_pos": [1, 2, 3, 4, 5, 6, 7], "extern_pos": [8]})");
+        row("ensured", ensure("array", "[2]"), "", "Array [2][0][0]", R"({"a": 1})");
+        row("ensured, first", ensure("Bare", ""), "edit 2", "Bare", "null");
+        row("index with dots", object("Bare", {{"b.c", 1}}, "a.#1"), "edit 2", "Bare a.#1",
+            R"({"b.c": 1})");
+        row("element removed", removeElement("Array", "[1]"), "edit 1", "Array [1][0][0]", "");
+        row("created", create(" New\t"), "add 3", "New", "null");
+        row("point removed", remove("p1"), "", "P1", "");
+        row("last element removed", removeElement("p1", ""), "", "P1", "");
     }
 
     void anEditIsStoredToldWrittenAndPushed()
@@ -273,15 +229,14 @@ private Q_SLOTS:
     {
         const auto row = testcolumns<QJsonValue, QByteArray, Edit, QStringList, bool>(
             "answer", "rsync", "edit", "errors", "written");
-        const Edit set = [] { return manager()->setPointJointData("Array", {1}, "[1]"); };
-        const Edit remove = [] { return manager()->removePoint("Array"); };
+        const Edit set = joints("Array", {1}, "[1]");
         row("element refused", 5, "exit 0", set,
             {"pers_point_refresh failed, name=Array index=[1][0][0] ret=5"}, false);
-        row("removal refused", -1, "exit 0", remove, {"removePoint: hotRemove failed, name=Array"},
-            false);
+        row("removal refused", -1, "exit 0", remove("Array"),
+            {"removePoint: hotRemove failed, name=Array"}, false);
         row("not pushed", 0, "exit 1", set, {"push point.json failed"}, true);
         row("no integer", true, "exit 0", set, {}, true);
-        row("a text", "5", "exit 0", remove, {}, true);
+        row("a text", "5", "exit 0", remove("Array"), {}, true);
     }
 
     void aFailingStepEndsAnEdit()

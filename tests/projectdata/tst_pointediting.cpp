@@ -51,7 +51,7 @@ Edit ensure(const QString &name, const QString &index)
 {
     return [=] { return manager()->ensurePointElement(name, index); };
 }
-Edit remove(const QString &name)
+Edit removePoint(const QString &name)
 {
     return [=] { return manager()->removePoint(name); };
 }
@@ -109,7 +109,7 @@ private Q_SLOTS:
         row("infinite JSON", object("P1", {{"a", QJsonArray {QJsonValue(infinite)}}}), unfit);
         row("deep JSON", object("P1", deep(65)), unfit);
         row("ensure nowhere", ensure("x", ""), "ensurePointElement: point not found, name=x");
-        row("remove nowhere", remove("x"), "removePoint: not found, name=x");
+        row("remove nowhere", removePoint("x"), "removePoint: not found, name=x");
         row("remove element nowhere", removeElement("x", ""),
             removeName + "point not found, name=x");
         row("remove no element", removeElement("P1", "[2]"), removeName + nowhere);
@@ -149,7 +149,7 @@ private Q_SLOTS:
             R"({"b.c": 1})");
         row("element removed", removeElement("Array", "[1]"), "edit 1", "Array [1][0][0]", "");
         row("created", create(" New\t"), "add 3", "New", "null");
-        row("point removed", remove("p1"), "", "P1", "");
+        row("point removed", removePoint("p1"), "", "P1", "");
         row("last element removed", removeElement("p1", ""), "", "P1", "");
     }
 
@@ -232,11 +232,11 @@ private Q_SLOTS:
         const Edit set = joints("Array", {1}, "[1]");
         row("element refused", 5, "exit 0", set,
             {"pers_point_refresh failed, name=Array index=[1][0][0] ret=5"}, false);
-        row("removal refused", -1, "exit 0", remove("Array"),
+        row("removal refused", -1, "exit 0", removePoint("Array"),
             {"removePoint: hotRemove failed, name=Array"}, false);
         row("not pushed", 0, "exit 1", set, {"push point.json failed"}, true);
         row("no integer", true, "exit 0", set, {}, true);
-        row("a text", "5", "exit 0", remove("Array"), {}, true);
+        row("a text", "5", "exit 0", removePoint("Array"), {}, true);
     }
 
     void aFailingStepEndsAnEdit()

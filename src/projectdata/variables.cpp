@@ -6,6 +6,7 @@
 #include <zeplet/interface/interfacemanager_p.h>
 #include <zeplet/interface/nodejson_p.h>
 #include <zeplet/log/hostlines_p.h>
+#include <zeplet/projectdata/jsonlimits_p.h>
 #include <zeplet/projectdata/projectrecords_p.h>
 #include <zeplet/projectdata/recordsaving_p.h>
 
@@ -87,6 +88,8 @@ bool checkNew(const QString &name, const QVariant &value, bool connected)
         errorLine() << "addVarData: variable already exists:" << name;
     else if (!isFinite(value))
         errorLine() << "addVarData: value is not finite:" << name;
+    else if (!canBeStored(QJsonValue::fromVariant(value)))
+        errorLine() << "addVarData: value has too many levels:" << name;
     else
         return true;
     return false;
@@ -107,6 +110,8 @@ bool checkUpdate(const QString &name, const QVariant &value, bool connected)
         errorLine() << "updateVarData: unsupported type:" << type;
     else if (!isFinite(value))
         errorLine() << "updateVarData: value is not finite:" << name;
+    else if (!canBeStored(QJsonValue::fromVariant(value)))
+        errorLine() << "updateVarData: value has too many levels:" << name;
     else
         return true;
     return false;

@@ -97,6 +97,12 @@ void ManagerHelper::registQrcAlias(const QString &name)
         qCWarning(brisaLog).noquote() << QStringLiteral("no alias for resources: ") + name;
         return;
     }
+    // Plugins may have such a name; Qt gives it no alias.
+    if (name.contains(QLatin1Char('-')) || name.contains(QLatin1Char('_'))) {
+        qCInfo(brisaLog).noquote()
+            << QStringLiteral("resources have no alias for their name: ") << name;
+        return;
+    }
     QDir::setSearchPaths(name, {QStringLiteral(":/") + name});
 }
 

@@ -34,7 +34,7 @@ Glyph toneGlyph(Tone tone)
 
 } // namespace
 
-NoticeLine::NoticeLine(QWidget *parent)
+NoticeLine::NoticeLine(Kind kind, QWidget *parent)
     : QFrame(parent)
     , m_picture(new QLabel(this))
     , m_text(new QLabel(this))
@@ -45,7 +45,9 @@ NoticeLine::NoticeLine(QWidget *parent)
     m_text->setWordWrap(true);
     m_close->setAutoRaise(true);
     m_close->setFixedSize(metrics::Touch, metrics::Touch);
+    m_close->setVisible(kind == Closable);
     m_close->setAccessibleName(tr("Close"));
+    setMinimumHeight(metrics::Touch);
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins(metrics::Margin, 0, 0, 0);
     row->setSpacing(metrics::Margin);

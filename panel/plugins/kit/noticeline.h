@@ -17,7 +17,10 @@ class NoticeLine : public QFrame
     Q_OBJECT
 
 public:
-    explicit NoticeLine(QWidget *parent = nullptr);
+    /** Kept: only the page takes it away, because it is so as long as it says so. */
+    enum Kind { Closable, Kept };
+
+    explicit NoticeLine(Kind kind, QWidget *parent = nullptr);
 
     void say(Tone tone, const QString &sentence);
     QString text() const;

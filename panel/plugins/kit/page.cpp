@@ -35,17 +35,20 @@ Page::Page(const QString &pluginName, const QString &title, QWidget *parent)
     , m_header(new QHBoxLayout)
     , m_title(new brisa::ElidedLabel(title, this))
     , m_subtitle(new brisa::ElidedLabel(QString(), this))
-    , m_notice(new NoticeLine(this))
+    , m_notice(new NoticeLine(NoticeLine::Closable, this))
     , m_body(new QVBoxLayout)
 {
     m_title->setFont(ThemeManager::font(brisa::TextSize::Heading, true));
     m_subtitle->setFont(ThemeManager::font(brisa::TextSize::Body));
     auto *const titles = new QVBoxLayout;
     titles->setSpacing(metrics::Grid / 2);
+    titles->addStretch(1);
     titles->addWidget(m_title);
     titles->addWidget(m_subtitle);
+    titles->addStretch(1);
     m_header->setSpacing(metrics::Grid);
     m_header->addLayout(titles, 1);
+    m_header->addStrut(metrics::Touch); // titles stand alike, with buttons and without
     m_body->setSpacing(metrics::Margin);
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);

@@ -1,0 +1,10 @@
+#include "kit/pageplugin.h"
+#include "signalspage.h"
+
+namespace
+{
+
+[[maybe_unused]] const bool registered
+    = kit::registerPage<SignalsPage>("lamp", [] { return SignalsPage::tr("Signals"); });
+
+} // namespace

@@ -75,7 +75,7 @@ bool moveTimeOn(int handle, const struct stat &old)
 }
 } // namespace
 
-bool writeDurably(const QString &path, const QByteArray &content, QString *error)
+bool writeDurably(const QString &path, const ContentWriter &write, QString *error)
 {
     const QString target = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     const QString directory = QFileInfo(target).path();
@@ -85,8 +85,9 @@ bool writeDurably(const QString &path, const QByteArray &content, QString *error
         return false;
 
     QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()
-        || !file.flush()) {
+    if (file.open(QIODevice::WriteOnly) && !write(&file, error))
+        return false;
+    if (!file.isOpen() || file.error() != QFileDevice::NoError || !file.flush()) {
         *error = QStringLiteral("can't write %1: %2").arg(target, file.errorString());
         return false;
     }

@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <algorithm>
 #include <cmath>
 
 namespace ostrel
@@ -112,21 +113,49 @@ bool importValue(Node &node, const QJsonValue &json, ImportMode mode, int depth)
     return true;
 }
 
-QJsonValue exportObject(const Node &node)
+template <typename Export>
+QJsonValue exportChildren(const Node &node, Export exportChild)
 {
+    if (node.isList()) {
+        QJsonArray elements;
+        for (const Node &child : node)
+            elements.append(exportChild(child));
+        return elements;
+    }
     const NameTable &names = NameTable::instance();
     QJsonObject members;
     for (const Node &child : node)
-        members.insert(names.text(child.name()), toJson(child));
+        members.insert(names.text(child.name()), exportChild(child));
     return members;
 }
 
-QJsonValue exportList(const Node &node)
+QJsonValue exportContainer(const Node &node)
 {
-    QJsonArray elements;
-    for (const Node &child : node)
-        elements.append(toJson(child));
-    return elements;
+    const QJsonValue kept = node.keptJson();
+    if (!kept.isUndefined())
+        return kept;
+    return exportChildren(node, [](const Node &child) { return toJson(child); });
+}
+
+bool holdsContainers(const Node &node)
+{
+    const auto isContainer = [](const Node &child) { return child.isContainer(); };
+    return std::any_of(node.begin(), node.end(), isContainer);
+}
+
+// What a record holds flat is made in no time, but takes memory for each record.
+QJsonValue exportMember(const Node &member)
+{
+    if (!holdsContainers(member))
+        return toJson(member);
+    const QJsonValue json = exportContainer(member);
+    member.keepJson(json);
+    return json;
+}
+
+QJsonValue exportRecord(const Node &record)
+{
+    return record.isContainer() ? exportChildren(record, exportMember) : toJson(record);
 }
 } // namespace
 
@@ -152,11 +181,24 @@ QJsonValue toJson(const Node &node, bool children)
     case Node::Kind::Variant:
         return QJsonValue::fromVariant(node.variant());
     case Node::Kind::Object:
-        return children ? exportObject(node) : QJsonObject();
+        return children ? exportContainer(node) : QJsonObject();
     case Node::Kind::List:
-        return children ? exportList(node) : QJsonArray();
+        return children ? exportContainer(node) : QJsonArray();
     }
     return QJsonValue::Null;
+}
+
+bool isRecordList(const Node &node)
+{
+    constexpr int manyRecords = 64; // fewer are exported in no time
+    return node.isList() && node.childCount() >= manyRecords;
+}
+
+QJsonValue toJsonKeeping(const Node &node)
+{
+    if (!node.isContainer())
+        return toJson(node);
+    return exportChildren(node, isRecordList(node) ? exportRecord : toJsonKeeping);
 }
 
 } // namespace ostrel

@@ -1,9 +1,10 @@
-#include "ostrel/jsontext_p.h"
+#include "ostrel/jsontextwriter_p.h"
 
 #include "ostrel/jsonexchange_p.h"
+#include "ostrel/jsontext_p.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include <QIODevice>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -14,71 +15,76 @@ namespace ostrel
 namespace
 {
 constexpr char hexDigits[] = "0123456789abcdef";
+constexpr int chunk = 256 * 1024; // stays in the processor's cache until the file has it
+constexpr double integers = 9223372036854775808.0; // 2^63
+} // namespace
 
-/** Text that grows in one buffer. */
-class Writer
+JsonTextWriter::JsonTextWriter(bool indented, QIODevice *device)
+    : m_device(device)
+    , m_indented(indented)
 {
-public:
-    explicit Writer(bool indented)
-        : m_indented(indented)
-    {
-    }
+}
 
-    void writeNode(const Node &node, int level);
-    QByteArray finish();
-
-private:
-    void writeObject(const Node &node, int level);
-    void writeList(const Node &node, int level);
-    void writeForeign(const Node &node, int level);
-    void writeInteger(qint64 number);
-    void writeDouble(double number);
-    void writeString(const QString &text);
-    void writeUnit(const QChar *&at, const QChar *end);
-    void escape(char letter);
-    void escapeUnit(ushort unit);
-    void startLine(int level);
-    void put(char c) { *m_at++ = c; }
-    void put(const char *text, size_t length);
-    void room(size_t bytes)
-    {
-        if (size_t(m_end - m_at) < bytes)
-            grow(bytes);
-    }
-    void grow(size_t bytes);
-
-    QByteArray m_text;
-    char *m_at = nullptr;
-    char *m_end = nullptr;
-    bool m_indented;
-};
-
-void Writer::grow(size_t bytes)
+void JsonTextWriter::grow(size_t bytes)
 {
-    const auto used = m_at ? m_at - m_text.data() : 0;
-    const auto wanted = std::max(size_t(m_text.size()) * 2, size_t(used) + bytes + 256);
+    if (m_device && m_at)
+        flush();
+    const auto used = m_at ? m_at - m_text.constData() : 0;
+    const auto usual = m_device ? size_t(chunk) : size_t(m_text.size()) * 2;
+    const auto wanted = std::max(usual, size_t(used) + bytes + 256);
     m_text.resize(int(wanted));
     m_at = m_text.data() + used;
     m_end = m_text.data() + m_text.size();
 }
 
-void Writer::put(const char *text, size_t length)
+void JsonTextWriter::put(const char *text, size_t length)
 {
     room(length);
     std::memcpy(m_at, text, length);
     m_at += length;
 }
 
-QByteArray Writer::finish()
+QByteArray JsonTextWriter::finish()
 {
     if (m_indented)
         put("\n", 1);
+    if (m_device) {
+        flush();
+        return {};
+    }
     m_text.resize(int(m_at - m_text.data()));
     m_text.squeeze();
     return std::move(m_text);
 }
 
-void Writer::startLine(int level)
+// A device tells its errors itself, but of a full disk only the write after the one that was short.
+void JsonTextWriter::flush()
+{
+    const char *from = m_text.constData();
+    while (from != m_at) {
+        const qint64 written = m_device->write(from, m_at - from);
+        if (written <= 0)
+            break;
+        from += written;
+    }
+    m_at = m_text.data();
+}
+
+void JsonTextWriter::startMember(const QString &name, bool first, int level)
+{
+    startElement(first, level);
+    writeString(name);
+    m_indented ? put(": ", 2) : put(":", 1);
+}
+
+void JsonTextWriter::startElement(bool first, int level)
+{
+    if (!first)
+        put(",", 1);
+    startLine(level);
+}
+
+void JsonTextWriter::startLine(int level)
 {
     if (!m_indented)
         return;
@@ -89,8 +95,12 @@ void Writer::startLine(int level)
     m_at += blanks;
 }
 
-void Writer::writeNode(const Node &node, int level)
+void JsonTextWriter::writeNode(const Node &node, int level)
 {
+    if (level > maxDepth) {
+        m_complete = false;
+        return;
+    }
     switch (node.kind()) {
     case Node::Kind::Empty:
         return put("null", 4);
@@ -98,7 +108,7 @@ void Writer::writeNode(const Node &node, int level)
         return node.boolean() ? put("true", 4) : put("false", 5);
     case Node::Kind::Int:
     case Node::Kind::LongLong:
-        return writeInteger(node.integer());
+        return m_likeExport ? writeDouble(double(node.integer())) : writeInteger(node.integer());
     case Node::Kind::Double:
         return writeDouble(node.real());
     case Node::Kind::String:
@@ -113,45 +123,54 @@ void Writer::writeNode(const Node &node, int level)
 }
 
 // Rare types take the way through the JSON value that export makes of them.
-void Writer::writeForeign(const Node &node, int level)
+void JsonTextWriter::writeForeign(const Node &node, int level)
 {
     Node plain;
     fromJson(plain, toJson(node), true, true);
     writeNode(plain, level);
 }
 
-void Writer::writeObject(const Node &node, int level)
+void JsonTextWriter::writeObject(const Node &node, int level)
 {
     const NameTable &names = NameTable::instance();
+    const Members members = membersOf(node);
     put("{", 1);
-    const Node *const first = node.begin();
-    for (const Node &child : node) {
-        if (&child != first)
-            put(",", 1);
-        startLine(level + 1);
-        writeString(names.text(child.name()));
-        m_indented ? put(": ", 2) : put(":", 1);
-        writeNode(child, level + 1);
+    for (const Node *member : members) {
+        startMember(names.text(member->name()), member == members.first(), level + 1);
+        writeNode(*member, level + 1);
     }
     startLine(level);
     put("}", 1);
 }
 
-void Writer::writeList(const Node &node, int level)
+JsonTextWriter::Members JsonTextWriter::membersOf(const Node &node) const
+{
+    Members members;
+    for (const Node &child : node)
+        members.append(&child);
+    if (!m_likeExport)
+        return members;
+    const NameTable &names = NameTable::instance();
+    const auto isLess = [&names](const Node *left, const Node *right) {
+        return names.text(left->name()) < names.text(right->name());
+    };
+    if (!std::is_sorted(members.begin(), members.end(), isLess))
+        std::sort(members.begin(), members.end(), isLess);
+    return members;
+}
+
+void JsonTextWriter::writeList(const Node &node, int level)
 {
     put("[", 1);
-    const Node *const first = node.begin();
     for (const Node &child : node) {
-        if (&child != first)
-            put(",", 1);
-        startLine(level + 1);
+        startElement(&child == node.begin(), level + 1);
         writeNode(child, level + 1);
     }
     startLine(level);
     put("]", 1);
 }
 
-void Writer::writeInteger(qint64 number)
+void JsonTextWriter::writeInteger(qint64 number)
 {
     room(24);
     m_at = std::to_chars(m_at, m_end, number).ptr;
@@ -159,24 +178,49 @@ void Writer::writeInteger(qint64 number)
 
 // The shortest digits that read back as the same double; whole numbers as integers, but for the
 // negative zero, which no integer is.
-void Writer::writeDouble(double number)
+void JsonTextWriter::writeDouble(double number)
 {
-    constexpr double integers = 9223372036854775808.0; // 2^63
     if (!std::isfinite(number))
         return put("null", 4);
-    if (number == 0.0 && std::signbit(number))
+    if (number == 0.0 && std::signbit(number) && !m_likeExport)
         return put("-0.0", 4);
     const double size = std::fabs(number);
     if (size < integers && double(qint64(number)) == number)
         return writeInteger(qint64(number));
     room(40);
+    if (writeDecimal(number))
+        return;
     const bool plain = size >= 1e-4 && size < integers;
     m_at = std::to_chars(m_at, m_end, number,
                          plain ? std::chars_format::fixed : std::chars_format::scientific)
                .ptr;
 }
 
-void Writer::writeString(const QString &text)
+// Most numbers were rounded to six decimals once. What has at most 15 digits in all is the shortest
+// text of the double next to it, and dividing gives exactly that double.
+bool JsonTextWriter::writeDecimal(double number)
+{
+    constexpr int decimals = 6;
+    constexpr qint64 unit = 1000000;
+    const double size = std::fabs(number);
+    if (size < 1e-4 || size >= 1e9)
+        return false;
+    const auto units = qint64(std::nearbyint(size * unit));
+    if (double(units) / unit != size)
+        return false;
+    if (number < 0)
+        put('-');
+    m_at = std::to_chars(m_at, m_end, units / unit).ptr;
+    put('.');
+    qint64 rest = units % unit;
+    for (int i = decimals; i-- > 0; rest /= 10)
+        m_at[i] = char('0' + rest % 10);
+    for (m_at += decimals; m_at[-1] == '0';)
+        --m_at;
+    return true;
+}
+
+void JsonTextWriter::writeString(const QString &text)
 {
     room(size_t(text.size()) * 6 + 2);
     put('"');
@@ -195,7 +239,7 @@ void Writer::writeString(const QString &text)
 }
 
 // What is no plain ASCII. At most six bytes a unit, for which writeString made room.
-void Writer::writeUnit(const QChar *&at, const QChar *end)
+void JsonTextWriter::writeUnit(const QChar *&at, const QChar *end)
 {
     const QChar c = *at++;
     const ushort unit = c.unicode();
@@ -219,7 +263,7 @@ void Writer::writeUnit(const QChar *&at, const QChar *end)
     }
 }
 
-void Writer::escapeUnit(ushort unit)
+void JsonTextWriter::escapeUnit(ushort unit)
 {
     switch (unit) {
     case '"':
@@ -245,16 +289,15 @@ void Writer::escapeUnit(ushort unit)
         put(hexDigits[unit >> shift & 0xf]);
 }
 
-void Writer::escape(char letter)
+void JsonTextWriter::escape(char letter)
 {
     put('\\');
     put(letter);
 }
-} // namespace
 
 QByteArray writeJsonText(const Node &node, bool indented)
 {
-    Writer writer(indented);
+    JsonTextWriter writer(indented);
     writer.writeNode(node, 0);
     return writer.finish();
 }

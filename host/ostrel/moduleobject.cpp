@@ -320,7 +320,11 @@ QString ModuleObject::generateId()
 
 QJsonValue ModuleObject::exportToJson(bool children) const
 {
-    return d->node ? toJson(*d->node, children) : QJsonValue(QJsonValue::Null);
+    if (!d->node || !children)
+        return d->node ? toJson(*d->node, false) : QJsonValue(QJsonValue::Null);
+    if (isRecordList(*d->node))
+        ModuleObjectPrivate::lastExported() = this;
+    return toJsonKeeping(*d->node);
 }
 
 bool ModuleObject::importFromJson(QObject *origin, const QJsonValue &json, bool replace,

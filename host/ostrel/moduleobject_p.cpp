@@ -224,6 +224,18 @@ ModuleObject &ModuleObjectPrivate::store()
     return *root;
 }
 
+QPointer<const ModuleObject> &ModuleObjectPrivate::lastExported()
+{
+    static auto *const list = new QPointer<const ModuleObject>;
+    return *list;
+}
+
+const Node *ModuleObjectPrivate::lastExportedNode()
+{
+    const ModuleObject *list = lastExported();
+    return list ? list->d->node : nullptr;
+}
+
 void ModuleObjectPrivate::remember(const QString &path, ModuleObjectPrivate *handle)
 {
     if (!cache)

@@ -27,6 +27,10 @@ public:
 
     /** The root of the global store; never destroyed. */
     static ModuleObject &store();
+    /** The last list of many records that was exported whole, as long as it lives. */
+    static QPointer<const ModuleObject> &lastExported();
+    /** The node of that list, or null. */
+    static const Node *lastExportedNode();
 
     /** The handle one step below, made where it is missing. */
     ModuleObjectPrivate *below(QStringView step);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <plainname.h>
 
 /**
  * Where projects lie on the panel's disk: `<workspace>/<robot>/<project>/`. Nothing here looks at
@@ -9,9 +10,7 @@
 namespace zeplet
 {
 
-/** Whether the name can stand for one directory or file, and for itself only: not "." or "..", no
- *  "/", no control characters, and nothing that the file system would spell in another way. */
-bool isPlainName(const QString &name);
+using names::isPlainName;
 
 /** The host setting; empty where it is not set, and there are no projects then. */
 QString workspaceDirectory();

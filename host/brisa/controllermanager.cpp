@@ -2,6 +2,7 @@
 
 #include "brisa/brisalog_p.h"
 #include "brisa/hostthread_p.h"
+#include "brisa/managerhelper.h"
 #include "brisa/statemirror_p.h"
 #include "link/client.h"
 #include "ostrel/moduleobject.h"
@@ -9,6 +10,7 @@
 #include <QHash>
 #include <QJsonObject>
 #include <QUrl>
+#include <plainname.h>
 
 namespace brisa
 {
@@ -18,6 +20,15 @@ namespace
 const QLatin1String stateCommand("system.state.get");
 const QLatin1String paramsCommand("system.controller.get_params");
 const QLatin1String statePath("system.state");
+
+QString unusable(const QString &identity)
+{
+    return ControllerManager::tr(
+               "The controller calls its robot \"%1\", which can't name a directory: "
+               "its projects are kept as those of an unknown robot. Give the robot "
+               "a plain name.")
+        .arg(rpc::inOneLine(identity));
+}
 
 } // namespace
 
@@ -39,6 +50,8 @@ public:
                                int timeout);
 
     void cache(const QString &command, const QJsonValue &result);
+    void failed(const QString &command, const rpc::Answer &answer);
+    void mirror(QJsonObject state);
     void readState();
     void ended(bool expected);
     void notified(const QString &method, const QJsonObject &params);
@@ -46,6 +59,7 @@ public:
     ControllerManager *q;
     rpc::Client client;
     bool connected = false;
+    QString unusableIdentity; ///< the last one: it is told once
     Nodes requests;
     Nodes responses;
     Nodes notifications;
@@ -144,7 +158,7 @@ bool ControllerManager::Private::send(const QString &command, const QJsonValue &
         if (answer.isResult())
             cache(command, answer.value);
         else
-            client.logFailure(command, answer);
+            failed(command, answer);
     });
 }
 
@@ -174,11 +188,35 @@ void ControllerManager::Private::cache(const QString &command, const QJsonValue 
     rpc::deliver(command, [&] { response->importFromJson(q, result, true, true, true); });
 }
 
+void ControllerManager::Private::failed(const QString &command, const rpc::Answer &answer)
+{
+    client.logFailure(command, answer);
+    Q_EMIT q->requestFailed(command, rpc::reasonOf(answer));
+}
+
+// Projects lie in a directory of the robot's identity.
+void ControllerManager::Private::mirror(QJsonObject state)
+{
+    constexpr int longest = 255; // bytes of a directory's name
+    const QJsonValue identity = state.value(QLatin1String("id"));
+    const QString name = identity.toString();
+    const bool usable = name.isEmpty()
+        || (names::isPlainName(name) && !name.trimmed().isEmpty()
+            && name.toUtf8().size() <= longest);
+    if (!usable)
+        state.insert(QLatin1String("id"), QString());
+    if (!usable && name != unusableIdentity)
+        ManagerHelper::throwLog(q, QStringLiteral("warning"), unusable(name));
+    if (identity.isString())
+        unusableIdentity = usable ? QString() : name;
+    mirrorState(state, q);
+}
+
 void ControllerManager::Private::readState()
 {
     client.require(stateCommand, [this](const QJsonObject &state) {
         cache(stateCommand, state);
-        mirrorState(state, q);
+        mirror(state);
         client.require(paramsCommand, [this](const QJsonObject &params) {
             cache(paramsCommand, params);
             mirrorParams(params, q);
@@ -205,7 +243,7 @@ void ControllerManager::Private::notified(const QString &method, const QJsonObje
         return;
     }
     if (path == statePath && value.isObject())
-        mirrorState(value.toObject(), q);
+        mirror(value.toObject());
     else if (path == statePath)
         client.logUnknown(path + QStringLiteral(" that is no object"));
     if (ostrel::ModuleObject *node = notifications.value(path))

@@ -25,7 +25,8 @@ namespace brisa
  *
  * It mirrors the controller's state into the data store ("brisa.r.power", "mode", "state", "level",
  * "id", "version", and "brisa.setting.robot"): a value is set when it differs. After a loss the
- * last values stay, until they are read again with the next connection.
+ * last values stay, until they are read again with the next connection. An identity that can't
+ * name a directory counts as unknown, with a word to the operator.
  *
  * GUI thread. Answers and notifications are delivered there, in order; what a receiver throws is
  * caught and logged.
@@ -49,8 +50,8 @@ public:
     /**
      * Sends without waiting; true when accepted: there is a link, the frame is no larger than
      * 16 MiB, and fewer than 1024 requests wait. The answer comes into the command's "response"
-     * node, which emits changed(); a refusal is logged. timeout in ms (0 or less: 4800): a later
-     * answer is dropped. data that is null is left out.
+     * node, which emits changed(); a refusal is logged, see requestFailed(). timeout in ms (0 or
+     * less: 4800): a later answer is dropped. data that is null is left out.
      */
     bool request(const QString &module, const QString &command, const QJsonValue &data,
                  int timeout);
@@ -80,6 +81,9 @@ Q_SIGNALS:
     void rcConnected();
     /** The link was lost; expected: it was closed on purpose by this side. */
     void rcDisconnected(bool expected);
+    /** A request without waiting came to no result; reason is one line, what the controller wrote
+     *  where it refused. */
+    void requestFailed(const QString &command, const QString &reason);
 
 private:
     class Private;

@@ -257,6 +257,20 @@ void Client::Private::finish(qint64 id, const Answer &answer)
         deliver(name, [&] { callback(answer); });
 }
 
+QString reasonOf(const Answer &answer)
+{
+    switch (answer.status) {
+    case Answer::Status::TimedOut:
+        return Client::tr("no answer in time");
+    case Answer::Status::Lost:
+        return Client::tr("the link was lost");
+    default:
+        break;
+    }
+    const QString reason = inOneLine(answer.reason);
+    return reason.isEmpty() ? Client::tr("no reason was given") : reason;
+}
+
 QString inOneLine(const QString &text)
 {
     return text.left(300).simplified();

@@ -94,6 +94,9 @@ private:
     std::unique_ptr<Private> d;
 };
 
+/** Why there is no result, in one line: what the peer wrote where it refused. */
+QString reasonOf(const Answer &answer);
+
 /** What a peer has written, shortened for a log line. */
 QString inOneLine(const QString &text);
 

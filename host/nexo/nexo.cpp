@@ -53,7 +53,8 @@ class Nexo::Private
 public:
     explicit Private(Nexo *nexo);
 
-    void send(const QLatin1String &method, const QString &key, const QJsonObject &params);
+    bool send(const QLatin1String &method, const QString &key, const QJsonObject &params,
+              const Done &done = {});
     void sendSet(const QString &key, const QString &subKey, const QJsonValue &value);
     ostrel::ModuleObject *exec(const QLatin1String &method, const QString &key,
                                const QJsonObject &params);
@@ -149,6 +150,12 @@ void Nexo::command(QObject *origin, const QString &key, ostrel::ModuleObject *no
     d->send(commandMethod, key, keyAndValue(key, toJson(node)));
 }
 
+bool Nexo::command(QObject *origin, const QString &key, const QJsonValue &value, const Done &done)
+{
+    Q_UNUSED(origin)
+    return d->send(commandMethod, key, keyAndValue(key, value), done);
+}
+
 ostrel::ModuleObject *Nexo::execCommand(QObject *origin, const QString &key, const QVariant &value)
 {
     Q_UNUSED(origin)
@@ -187,15 +194,20 @@ ostrel::ModuleObject *Nexo::mobj()
     return d->mobj;
 }
 
-void Nexo::Private::send(const QLatin1String &method, const QString &key, const QJsonObject &params)
+bool Nexo::Private::send(const QLatin1String &method, const QString &key, const QJsonObject &params,
+                         const Done &done)
 {
     const QString title = method + QLatin1Char(' ') + key;
     const int limit = commandLimit();
-    const bool sent = client.send(method, params, limit, [this, title](const rpc::Answer &answer) {
+    const auto answered = [this, title, done](const rpc::Answer &answer) {
         client.logFailure(title, answer);
-    });
+        if (done)
+            done(answer.value, answer.isResult() ? QString() : rpc::reasonOf(answer));
+    };
+    const bool sent = client.send(method, params, limit, answered);
     if (!sent && !client.isUp())
         qCWarning(nexoLog).noquote() << QStringLiteral("hub: %1 not sent: no link").arg(title);
+    return sent;
 }
 
 void Nexo::Private::sendSet(const QString &key, const QString &subKey, const QJsonValue &value)

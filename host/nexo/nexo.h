@@ -2,9 +2,11 @@
 
 #include "hostexport.h"
 
+#include <QJsonValue>
 #include <QObject>
 #include <QString>
 #include <QVariant>
+#include <functional>
 #include <memory>
 
 namespace ostrel
@@ -45,6 +47,13 @@ public:
     /** Sends a command without waiting. What can't be sent, and a refusal, is logged. */
     void command(QObject *origin, const QString &key, const QVariant &value = QVariant());
     void command(QObject *origin, const QString &key, ostrel::ModuleObject *node);
+
+    /**
+     * The same, and done is called once, later: with the answer, or with a problem, one line, where
+     * none came. False, with a log line and without done, where it can't be sent.
+     */
+    using Done = std::function<void(const QJsonValue &answer, const QString &problem)>;
+    bool command(QObject *origin, const QString &key, const QJsonValue &value, const Done &done);
 
     /** Sends a command and blocks until the hub answers, the link is lost, or the host's limit
      *  ("nexo.limit", 30 s) passes; null in the last two cases, and on a refusal, which is logged.

@@ -308,9 +308,7 @@ void ModuleObject::copyFrom(QObject *origin, const ModuleObject &source, bool no
     Node copy;
     if (source.d->node)
         copy.copyContent(*source.d->node);
-    ChangeReport report(d.get(), notify);
-    d->takeContent(copy);
-    report.emitChanges(origin);
+    d->replaceContent(*this, copy, origin, notify);
 }
 
 QString ModuleObject::generateId()
@@ -349,9 +347,7 @@ bool ModuleObject::fromJsonText(QObject *origin, const QByteArray &text, QString
     Node parsed;
     if (!parseJsonText(text, &parsed, error))
         return false;
-    ChangeReport report(d.get(), notify);
-    d->takeContent(parsed);
-    report.emitChanges(origin);
+    d->replaceContent(*this, parsed, origin, notify);
     return true;
 }
 

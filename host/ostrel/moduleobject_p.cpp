@@ -177,6 +177,14 @@ void ModuleObjectPrivate::takeContent(Node &source)
     attachPlaceholders();
 }
 
+void ModuleObjectPrivate::replaceContent(ModuleObject &object, Node &source, QObject *origin,
+                                         bool notify)
+{
+    ChangeReport report(object.d.get(), notify);
+    object.d->takeContent(source);
+    report.emitChanges(origin);
+}
+
 void ModuleObjectPrivate::removeNode()
 {
     if (parent) {

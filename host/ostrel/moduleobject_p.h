@@ -50,6 +50,8 @@ public:
     void attachPlaceholders();
     /** Takes over the content of a node without handles. */
     void takeContent(Node &source);
+    /** The same for any object, which with notify tells its changes. */
+    static void replaceContent(ModuleObject &object, Node &source, QObject *origin, bool notify);
     /** Removes the node that this handle is attached to. */
     void removeNode();
     /**

@@ -15,6 +15,7 @@
 #include <brisa/thememanager.h>
 #include <kest/modulerunner.h>
 #include <ostrel/moduleobject.h>
+#include <tavik/robotdata.h>
 
 namespace panel
 {
@@ -63,6 +64,7 @@ bool PanelSession::start(QString *error)
     readSettings();
     m_robot = std::make_unique<RobotState>();
     m_window = std::make_unique<MainWindow>(*m_robot);
+    m_data = std::make_unique<tavik::RobotData>(); // it has things to say: the window stands
     loadPlugins();
     startModules();
     showWindow();
@@ -153,6 +155,7 @@ bool PanelSession::finish()
     m_guarding.reset();
     m_runner.reset();
     announce(QStringLiteral("stopped"));
+    m_data.reset();
     m_window.reset();
     brisa::ManagerHelper::shutdown();
     infoLine() << tr("The panel has ended.");

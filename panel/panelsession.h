@@ -10,6 +10,11 @@ namespace kest
 class ModuleRunner;
 }
 
+namespace tavik
+{
+class RobotData;
+}
+
 namespace panel
 {
 
@@ -53,6 +58,7 @@ private:
     const PanelOptions m_options;
     std::unique_ptr<RobotState> m_robot;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<tavik::RobotData> m_data;
     std::unique_ptr<StartGuard> m_guard;
     std::unique_ptr<PluginLoader> m_loader;
     std::unique_ptr<kest::ModuleRunner> m_runner;

@@ -19,8 +19,9 @@ IoCommands::IoCommands(CommandRegistry &registry, IoSignals &io, const Registers
                  });
     registry.add(QStringLiteral("io.io_signal.set_signal_value"),
                  [this](const QJsonValue &arguments, Session &) { return setValues(arguments); });
-    registry.add(QStringLiteral("io.io_signal.set_input_simu_mode"),
-                 [this](const QJsonValue &arguments, Session &) { return setSimulated(arguments); });
+    registry.add(
+        QStringLiteral("io.io_signal.set_input_simu_mode"),
+        [this](const QJsonValue &arguments, Session &) { return setSimulated(arguments); });
     registry.add(QStringLiteral("register.get"), [&registers](const QJsonValue &, Session &) {
         return Reply::done(registers.toJson());
     });

@@ -19,12 +19,12 @@ IoSignals::Signal readSignal(const QJsonValue &value, const QString &path, JsonE
     IoSignals::Signal signal;
     signal.name = reader.name(QStringLiteral("name"));
     signal.type = static_cast<IoSignals::Type>(
-        IoSignals::DigitalIn
-        + reader.choice(QStringLiteral("type"), IoSignals::typeNames(), 0));
+        IoSignals::DigitalIn + reader.choice(QStringLiteral("type"), IoSignals::typeNames(), 0));
     signal.label = reader.text(QStringLiteral("label"), QString());
-    signal.value = IoSignals::fitted(
-        signal.type, reader.has(QStringLiteral("value")) ? reader.value(QStringLiteral("value"))
-                                                         : QJsonValue(false));
+    signal.value = IoSignals::fitted(signal.type,
+                                     reader.has(QStringLiteral("value"))
+                                         ? reader.value(QStringLiteral("value"))
+                                         : QJsonValue(false));
     if (signal.value.isUndefined())
         reader.report(QStringLiteral("value"), QStringLiteral("does not fit the type"));
     return signal;
@@ -41,11 +41,13 @@ QVector<IoSignals::SystemIo> readSystem(JsonReader &io, const QString &name,
         const QString signal = reader.text(QStringLiteral("signal"), QString());
         const int function = reader.choice(QStringLiteral("function"), functions, -1);
         if (types.value(signal) != type)
-            reader.report(QStringLiteral("signal"), QStringLiteral("expected the name of a %1")
-                                                        .arg(IoSignals::typeNames().at(type - 1)));
+            reader.report(QStringLiteral("signal"),
+                          QStringLiteral("expected the name of a %1")
+                              .arg(IoSignals::typeNames().at(type - 1)));
         if (function < 0)
-            reader.report(QStringLiteral("function"), QStringLiteral("expected one of %1")
-                                                          .arg(functions.join(QStringLiteral(", "))));
+            reader.report(
+                QStringLiteral("function"),
+                QStringLiteral("expected one of %1").arg(functions.join(QStringLiteral(", "))));
         list += {signal, functions.value(function)};
     }
     return list;

@@ -21,9 +21,8 @@ QJsonArray systemToJson(const QVector<IoSignals::SystemIo> &list)
 
 bool names(const QVector<IoSignals::SystemIo> &list, const QString &signal)
 {
-    return std::any_of(list.cbegin(), list.cend(), [&](const IoSignals::SystemIo &entry) {
-        return entry.signal == signal;
-    });
+    return std::any_of(list.cbegin(), list.cend(),
+                       [&](const IoSignals::SystemIo &entry) { return entry.signal == signal; });
 }
 
 bool isInput(IoSignals::Type type)

@@ -12,8 +12,8 @@ namespace simulator
 {
 
 /**
- * The controller's IO: signals with their values, which of them are the system's own, and the switch
- * for simulated inputs. Lives on the simulator's thread.
+ * The controller's IO: signals with their values, which of them are the system's own, and the
+ * switch for simulated inputs. Lives on the simulator's thread.
  */
 class IoSignals : public QObject
 {

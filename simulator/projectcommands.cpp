@@ -31,12 +31,12 @@ ProjectCommands::ProjectCommands(CommandRegistry &controller, CommandRegistry &h
                    withText("autoload_prj_path", [this](const QString &path) {
                        return m_parts.projects.setAutoload(path);
                    }));
-    controller.add(QStringLiteral("project.frames.get"), [this](const QJsonValue &, Session &) {
-        return Reply::done(framesToJson());
-    });
+    controller.add(QStringLiteral("project.frames.get"),
+                   [this](const QJsonValue &, Session &) { return Reply::done(framesToJson()); });
     hubKeys.add(QStringLiteral("project.remove_task"),
-                [remove = withText("name", [this](const QString &name) { return removeTask(name); })](
-                    const QJsonValue &arguments, Session &session) {
+                [remove = withText("name", [this](const QString &name) {
+                     return removeTask(name);
+                 })](const QJsonValue &arguments, Session &session) {
                     const Reply reply = remove(arguments, session);
                     return reply.isDone() ? Reply::done(0) : reply;
                 });

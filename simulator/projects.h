@@ -10,8 +10,8 @@ namespace simulator
 {
 
 /**
- * The projects that the controller knows: those with a task, the open one, and the one that it loads
- * when it starts. Lives on the simulator's thread.
+ * The projects that the controller knows: those with a task, the open one, and the one that it
+ * loads when it starts. Lives on the simulator's thread.
  */
 class Projects : public QObject
 {
@@ -35,7 +35,8 @@ public:
     /** Makes the project's directory where it is missing, and its task. Refused for a name that is
      *  no plain path component. */
     Refusal open(const QString &name);
-    /** Drops the task of a project; its files stay. A project without a task has nothing to drop. */
+    /** Drops the task of a project; its files stay. A project without a task has nothing to drop.
+     */
     Refusal removeTask(const QString &name);
     /** "" for none. Refused where the first step is no plain path component. */
     Refusal setAutoload(const QString &path);

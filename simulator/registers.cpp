@@ -19,7 +19,8 @@ Refusal Registers::set(const QString &name, int index, const QString &text)
     if (found == m_values.end())
         return QStringLiteral("there is no register '%1'").arg(name);
     if (index < 0 || index >= found->value.size())
-        return QStringLiteral("the register '%1' has no index %2").arg(name, QString::number(index));
+        return QStringLiteral("the register '%1' has no index %2")
+            .arg(name, QString::number(index));
     if (found->value.at(index) == text)
         return std::nullopt;
     found->value[index] = text;

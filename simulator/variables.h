@@ -65,8 +65,8 @@ private:
     QMap<QString, Variable> m_project;
 };
 
-/** The variables of a project's file; nothing where there is no such file. `error` says why one that
- *  is there can't be read. */
+/** The variables of a project's file; nothing where there is no such file. `error` says why one
+ * that is there can't be read. */
 QVector<Variables::Variable> readVariableFile(const QString &path, QString *error);
 
 } // namespace simulator

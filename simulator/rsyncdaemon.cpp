@@ -16,7 +16,6 @@ namespace simulator
 namespace
 {
 constexpr int kStartLimitMs = 5000;
-constexpr int kStopLimitMs = 2000;
 constexpr int kPollMs = 5;
 
 /** The "socket:[inode]" that listens on a port of loopback; "" where none does. */
@@ -53,12 +52,13 @@ bool listens(qint64 pid, quint16 port)
 }
 } // namespace
 
-/** Between fork and exec: only async-signal-safe calls may stand here. */
+/** Between fork and exec: only async-signal-safe calls may stand here. SIGKILL, because a transfer
+ *  that is told to end goes on reading for half a minute. */
 void RsyncDaemon::Process::setupChildProcess()
 {
     ::setpgid(0, 0);
     ::fcntl(STDIN_FILENO, F_SETOWN, -::getpid());
-    ::fcntl(STDIN_FILENO, F_SETSIG, SIGTERM);
+    ::fcntl(STDIN_FILENO, F_SETSIG, SIGKILL);
     ::fcntl(STDIN_FILENO, F_SETFL, O_ASYNC);
 }
 
@@ -116,12 +116,8 @@ void RsyncDaemon::stop()
     m_serving = false;
     if (!isRunning())
         return;
-    const auto group = static_cast<pid_t>(m_process.processId());
-    ::kill(-group, SIGTERM);
-    if (!m_process.waitForFinished(kStopLimitMs)) {
-        ::kill(-group, SIGKILL);
-        m_process.waitForFinished();
-    }
+    ::kill(-static_cast<pid_t>(m_process.processId()), SIGKILL);
+    m_process.waitForFinished();
 }
 
 QString RsyncDaemon::lastWords()

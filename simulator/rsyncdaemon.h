@@ -18,7 +18,7 @@ public:
 
     /** Starts it and waits up to 5 s until it listens on the port. */
     bool start(const QString &configFile, quint16 port, QString *error);
-    /** Ends it and the transfers that it serves; waits for it. */
+    /** Ends it and the transfers that it serves, as a loss of power would; waits for it. */
     void stop();
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
 
@@ -27,7 +27,7 @@ signals:
     void died(const QString &reason);
 
 private:
-    /** A process in a group of its own, which gets SIGTERM when the parent's end of its standard
+    /** A process in a group of its own, which is killed when the parent's end of its standard
      *  input is closed: the kernel does that for a parent that dies. */
     class Process : public QProcess
     {

@@ -85,8 +85,10 @@ Simulator::Simulator(const Scenario &scenario, QObject *parent)
     connect(&d->faults, &Faults::conditionsChanged, this, &Simulator::applyConditions);
     connect(&d->timeline, &Timeline::due, this,
             [this](const QString &line) { carryOut(QStringLiteral("timeline"), line); });
-    connect(&d->program, &Program::due, this,
-            [this](const QString &line) { carryOut(QStringLiteral("program"), line); });
+    connect(&d->program, &Program::due, this, [this](const QString &line) {
+        if (!carryOut(QStringLiteral("program"), line))
+            d->robot.stopProgram();
+    });
     connect(&d->robot, &RobotState::changed, this,
             [this] { d->program.setRunning(d->robot.values().program); });
     connect(&d->projects, &Projects::opened, this, &Simulator::loadProject);
@@ -127,11 +129,12 @@ void Simulator::loadProject()
         emit problem(QStringLiteral("project: ") + error);
 }
 
-void Simulator::carryOut(const QString &origin, const QString &line)
+bool Simulator::carryOut(const QString &origin, const QString &line)
 {
     const Reply reply = control(line);
     if (!reply.isDone())
         emit problem(QStringLiteral("%1: %2: %3").arg(origin, line, reply.reason));
+    return reply.isDone();
 }
 
 Simulator::~Simulator()

@@ -85,7 +85,7 @@ private:
     void applyConditions();
     void connectReports();
     void loadProject();
-    void carryOut(const QString &origin, const QString &line);
+    bool carryOut(const QString &origin, const QString &line);
 
     class Private;
     std::unique_ptr<Private> d;

@@ -30,6 +30,7 @@ public:
         const auto match = pattern.match(line());
         controllerPort = match.captured(1).toUShort();
         hubPort = match.captured(2).toUShort();
+        rsyncPort = match.captured(3).toUShort();
         return match.hasMatch();
     }
     /** The next line of its standard output; "" where none comes. */
@@ -54,6 +55,7 @@ public:
     QProcess process;
     quint16 controllerPort = 0;
     quint16 hubPort = 0;
+    quint16 rsyncPort = 0;
 };
 } // namespace
 
@@ -147,6 +149,7 @@ private slots:
         row("word", {"demo.json"}, 2, "'demo.json'");
         row("port", {"--port", "65536"}, 2, "'65536'");
         row("hub port", {"--hub-port", "x"}, 2, "'x'");
+        row("rsync port alone", {"--rsync-port", "1"}, 2, "--files");
         row("no such file", {"--scenario", "missing.json"}, 1, "missing.json: ");
         row("broken file", {"--scenario", SIMULATOR}, 1, "line 1");
     }
@@ -162,6 +165,32 @@ private slots:
         QCOMPARE(running.process.readAllStandardOutput(), QByteArray());
         const QString text = QString::fromUtf8(running.process.readAllStandardError());
         QVERIFY2(text.contains(error) && text.count('\n') == 1, qPrintable(text));
+    }
+
+    void killedWithItsFiles()
+    {
+        QTemporaryDir directory;
+        QFile big(directory.filePath("big"));
+        QVERIFY(big.open(QIODevice::WriteOnly) && big.resize(qint64(200) * 1024 * 1024));
+        Running running({"--files", directory.filePath("c"), "--rsync-port", "0"});
+        QVERIFY(running.ready() && running.rsyncPort != 0);
+        QProcess rsync; // a transfer that lasts
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("RSYNC_PASSWORD", "729413");
+        rsync.setProcessEnvironment(environment);
+        rsync.start("rsync",
+                    {"--bwlimit=1m", big.fileName(),
+                     QString("rsync://brisa@127.0.0.1:%1/hmi/_temp/").arg(running.rsyncPort)});
+        const QDir arrived(directory.filePath("c/hmi/_temp"));
+        QTRY_VERIFY(!arrived.entryList(QDir::Files | QDir::Hidden).isEmpty());
+
+        running.process.kill();
+        QTRY_COMPARE(rsync.state(), QProcess::NotRunning);
+        QVERIFY(rsync.exitCode() != 0);
+        Running again({"--files", directory.filePath("c"), "--rsync-port",
+                       QString::number(running.rsyncPort)});
+        QVERIFY(again.ready());
+        QCOMPARE(again.rsyncPort, running.rsyncPort);
     }
 
     void demoLooksAlive()

@@ -106,9 +106,13 @@ private slots:
         row("values", {}, "io.io_signal.get_signal_value {\"signal_value\": {}}",
             "={\"signal_value\":" + all + "}", get, all);
         row("outputs", {}, set(R"({"do": true, "go": 5, "ao": -1.5})"), "=true", get,
-            QString(all).replace("\"do\":false", "\"do\":true").replace(":3", ":5").replace("0.5", "-1.5"));
+            QString(all)
+                .replace("\"do\":false", "\"do\":true")
+                .replace(":3", ":5")
+                .replace("0.5", "-1.5"));
         row("input", {}, set(R"({"di": true})"), "'di' is not simulated", get, all);
-        row("simulated", {"simulation on"}, set(R"({"di": true})"), "=true", "signal get di", "true");
+        row("simulated", {"simulation on"}, set(R"({"di": true})"), "=true", "signal get di",
+            "true");
         row("group input", {}, set(R"({"gi": 1})"), "'gi' is not simulated", get, all);
         row("system input", {"simulation on"}, set(R"({"start": true})"), "belongs to the system",
             get, all);
@@ -120,7 +124,8 @@ private slots:
         row("fraction", {}, set(R"({"go": 1.5})"), "fit the signal 'go'", get, all);
         row("negative group", {}, set(R"({"go": -1})"), "fit the signal 'go'", get, all);
         row("no object", {}, set("[]"), "has to be an object", get, all);
-        row("simulation, wrong", {}, "io.io_signal.set_input_simu_mode {\"on\": 1}", "'on'", get, all);
+        row("simulation, wrong", {}, "io.io_signal.set_input_simu_mode {\"on\": 1}", "'on'", get,
+            all);
         row("field sets inputs", {"signal set di true"}, "io.get",
             R"("signals":[{"label":"","name":"di","signal_type":1})", "signal get di", "true");
         row("register", {"register set R 1 two words"}, "register.get",
@@ -128,34 +133,40 @@ private slots:
             "error: the register 'R' has no index 2");
 
         const QString overview = "project get";
-        const QString closed = R"({"autoload_prj_path":"","cur_func":"","cur_task":"","projects":[],)"
-                               R"("tasks":["t1","t2"]})";
+        const QString closed
+            = R"({"autoload_prj_path":"","cur_func":"","cur_task":"","projects":[],)"
+              R"("tasks":["t1","t2"]})";
         row("open", {}, R"(project.overview.open {"name": "A B"})", "=true", overview,
             R"({"autoload_prj_path":"","cur_func":"main","cur_task":"t1","projects":["A B"],)"
             R"("tasks":["t1","t2"]})");
         for (const char *name : {"..", ".", "", "a/b", "a\\u0000", "a\\n"})
             row(qPrintable(QString("open '%1'").arg(name)), {},
-                QString(R"(project.overview.open {"name": "%1"})").arg(name), "no name of a project",
-                overview, closed);
-        row("too long", {}, QString(R"(project.overview.open {"name": "%1"})").arg(QString(128, QChar(0xe4))),
+                QString(R"(project.overview.open {"name": "%1"})").arg(name),
+                "no name of a project", overview, closed);
+        row("too long", {},
+            QString(R"(project.overview.open {"name": "%1"})").arg(QString(128, QChar(0xe4))),
             "no name of a project", overview, closed);
         row("open while running", {"set power on", "program start"},
             R"(project.overview.open {"name": "A"})", "while a program runs", overview, closed);
         row("autoload", {}, R"(project.overview.set_autoload {"autoload_prj_path": "../x"})",
             "no name of a project", overview, closed);
         row("autoload cleared", {"project autoload A/t"},
-            R"(project.overview.set_autoload {"autoload_prj_path": ""})", "=true", overview, closed);
+            R"(project.overview.set_autoload {"autoload_prj_path": ""})", "=true", overview,
+            closed);
         row("remove task", {"project open A"}, R"(hub project.remove_task {"name": "A"})", "=0",
             overview, closed);
-        row("remove unknown task", {}, R"(hub project.remove_task {"name": "B"})", "=0", overview, closed);
-        row("remove path", {}, R"(hub project.remove_task {"name": "../A"})", "no name", overview, closed);
+        row("remove unknown task", {}, R"(hub project.remove_task {"name": "B"})", "=0", overview,
+            closed);
+        row("remove path", {}, R"(hub project.remove_task {"name": "../A"})", "no name", overview,
+            closed);
         row("frames", {"frame set tool project torch 1 2 3 0 0 0"}, "project.frames.get",
             R"("var_system_list":[{"name":"v7","type":"speed","value":7}])", overview, closed);
 
         row("modify", {}, R"(hub monitor.pers.modify {"n": 2, "text": "y"})", "=true",
             "hub get monitor", "null");
-        row("modify by text", {}, R"(hub monitor.pers.modify {"n": "2.5", "flag": "true"})", "=true",
-            "var get flag", R"({"name":"flag","pers":true,"record":{},"type":"double","value":true})");
+        row("modify by text", {}, R"(hub monitor.pers.modify {"n": "2.5", "flag": "true"})",
+            "=true", "var get flag",
+            R"({"name":"flag","pers":true,"record":{},"type":"double","value":true})");
         row("modify a local one", {}, R"(hub monitor.pers.modify {"local": 2})",
             "no persistent variable 'local'", "hub get monitor", "null");
         row("all or nothing", {}, R"(hub monitor.pers.modify {"n": 2, "flag": "maybe"})",
@@ -163,9 +174,10 @@ private slots:
             R"({"name":"n","pers":true,"record":{},"type":"double","value":1})");
         row("read", {"var set n 0.1"}, R"(hub monitor.pers.read ["text", "none", "n", "flag"])",
             R"(={"data":["x","","0.1","false"]})", "hub get monitor", "null");
-        row("read, wrong", {}, R"(hub monitor.pers.read [1])", "array of names", "hub get monitor", "null");
-        row("no monitor", {"set version 3.3.1"}, R"(hub monitor.pers.read ["n"])", "unknown hub command",
-            R"(hub set monitor.select ["n"])",
+        row("read, wrong", {}, R"(hub monitor.pers.read [1])", "array of names", "hub get monitor",
+            "null");
+        row("no monitor", {"set version 3.3.1"}, R"(hub monitor.pers.read ["n"])",
+            "unknown hub command", R"(hub set monitor.select ["n"])",
             "error: this version of the controller monitors no variables");
 
         const auto update = [](const char *operation, const char *entry) {
@@ -173,19 +185,27 @@ private slots:
                 .arg(operation, entry);
         };
         row("add a variable", {}, update("add", R"({"name": "v", "type": "int", "pers": true,
-            "value": {"[0][0][0]": 4}})"), "=0", "hub get monitor", "null");
+            "value": {"[0][0][0]": 4}})"),
+            "=0", "hub get monitor", "null");
         row("rule's number", {}, update("edit", R"({"name": "p", "type": "robtarget"})"), "=3",
             "point get", "{}");
-        row("rule's reason", {}, update("remove", R"({"name": "n"})"), "=error: locked", "point get", "{}");
-        row("the first rule counts", {}, update("remove", R"({"name": "open1"})"), "=0", "point get", "{}");
-        row("a pattern is no expression", {}, update("add", R"({"name": "a1", "type": "robtarget"})"),
-            "=0", "point get a1", R"({"name":"a1","type":"robtarget"})");
+        row("rule's reason", {}, update("remove", R"({"name": "n"})"), "=error: locked",
+            "point get", "{}");
+        row("the first rule counts", {}, update("remove", R"({"name": "open1"})"), "=0",
+            "point get", "{}");
+        row("a pattern is no expression", {},
+            update("add", R"({"name": "a1", "type": "robtarget"})"), "=0", "point get a1",
+            R"({"name":"a1","type":"robtarget"})");
         row("nothing of a refused update", {}, update("add", R"({"name": "p", "type": "robtarget"},
-            {"name": "x\\d", "type": "robtarget"})"), "=-4", "point get", "{}");
-        row("operator", {}, update("jump", R"({"name": "p"})"), "has to be one of add", "point get", "{}");
+            {"name": "x\\d", "type": "robtarget"})"),
+            "=-4", "point get", "{}");
+        row("operator", {}, update("jump", R"({"name": "p"})"), "has to be one of add", "point get",
+            "{}");
         row("without a name", {}, update("add", "{}"), "objects with a name", "point get", "{}");
-        row("refresh of an element", {R"(hub get x)"}, update("pers_point_refresh",
-            R"({"name": "p", "type": "jointtarget", "s_d": "[0][1][0]", "[0][1][0]": {"a": 1}})"),
+        row("refresh of an element", {R"(hub get x)"},
+            update(
+                "pers_point_refresh",
+                R"({"name": "p", "type": "jointtarget", "s_d": "[0][1][0]", "[0][1][0]": {"a": 1}})"),
             "=0", "point get p",
             R"({"name":"p","type":"jointtarget","value":{"[0][1][0]":{"a":1}}})");
     }
@@ -209,11 +229,15 @@ private slots:
 
     void changesAreNotified_data()
     {
-        const auto row = testcolumns<QStringList, QString, int, QString>("lines", "path", "count", "last");
-        row("simulation", {"simulation on", "simulation on"}, "io.state", 1, "\"input_simu_mode\":true");
-        row("registers", {"register set R 0 z", "register set R 0 z"}, "register.state", 1, "[\"z\",\"b\"]");
+        const auto row
+            = testcolumns<QStringList, QString, int, QString>("lines", "path", "count", "last");
+        row("simulation", {"simulation on", "simulation on"}, "io.state", 1,
+            "\"input_simu_mode\":true");
+        row("registers", {"register set R 0 z", "register set R 0 z"}, "register.state", 1,
+            "[\"z\",\"b\"]");
         row("project", {"project open A", "project open A"}, "project.overview", 1, "[\"A\"]");
-        row("frames", {"frame set wobj global g 1 2 3 0 0 0"}, "project.frames", 1, "g_wobjs\":[{\"name\":\"g\"");
+        row("frames", {"frame set wobj global g 1 2 3 0 0 0"}, "project.frames", 1,
+            "g_wobjs\":[{\"name\":\"g\"");
     }
 
     void changesAreNotified()

@@ -54,13 +54,15 @@ class TestFiles : public QObject
 private slots:
     void push_data()
     {
-        const auto row = testcolumns<QString, QString, int, QString>("password", "to", "exitCode", "arrives");
+        const auto row
+            = testcolumns<QString, QString, int, QString>("password", "to", "exitCode", "arrives");
         row("file", "729413", "brisa@127.0.0.1::hmi/_temp/point.json", 0, "hmi/_temp/point.json");
         row("wrong password", "729414", "brisa@127.0.0.1::hmi/_temp/point.json", 5, "");
         row("no password", "", "brisa@127.0.0.1::hmi/_temp/point.json", 5, "");
         row("other user", "729413", "root@127.0.0.1::hmi/_temp/point.json", 5, "");
         row("other module", "729413", "brisa@127.0.0.1::etc/_temp/point.json", 5, "");
-        row("out of the module", "729413", "brisa@127.0.0.1::hmi/../../out.json", 0, "hmi/out.json");
+        row("out of the module", "729413", "brisa@127.0.0.1::hmi/../../out.json", 0,
+            "hmi/out.json");
         row("project not open", "729413", "brisa@127.0.0.1::hmi/P/point.json", 3, "");
     }
 
@@ -77,7 +79,8 @@ private slots:
         content += QByteArray(100000, '\0');
         write(directory.filePath("from.json"), content);
 
-        QTEST(rsync(simulated.rsyncPort(), {directory.filePath("from.json"), to}, password), "exitCode");
+        QTEST(rsync(simulated.rsyncPort(), {directory.filePath("from.json"), to}, password),
+              "exitCode");
         QStringList files;
         QDirIterator found(directory.path(), QDir::Files, QDirIterator::Subdirectories);
         while (found.hasNext())
@@ -89,7 +92,8 @@ private slots:
         }
         QCOMPARE(files.filter(".json").size(), arrives.isEmpty() ? 1 : 2);
 
-        struct stat secrets {};
+        struct stat secrets {
+        };
         QCOMPARE(::stat(qPrintable(root + "rsyncd.secrets"), &secrets), 0);
         QCOMPARE(secrets.st_mode & 0777U, 0600U);
         QVERIFY(contentOf(root + "rsyncd.log").contains("connect from"));

@@ -44,9 +44,12 @@ ProjectCommands::ProjectCommands(CommandRegistry &controller, CommandRegistry &h
 
 Refusal ProjectCommands::open(const QString &name)
 {
-    if (runs() && name != m_parts.projects.current())
-        return QStringLiteral("another project cannot be opened while a program runs");
-    return m_parts.projects.open(name);
+    if (!runs())
+        return m_parts.projects.open(name);
+    // A panel that comes back says again what is open: what the program changed stays.
+    if (name == m_parts.projects.current())
+        return std::nullopt;
+    return QStringLiteral("another project cannot be opened while a program runs");
 }
 
 Refusal ProjectCommands::removeTask(const QString &name)

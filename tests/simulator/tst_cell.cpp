@@ -317,6 +317,12 @@ private slots:
         QCOMPARE(cell.ask("project open P 1"), "true");
         QCOMPARE(request(cell, R"(hub monitor.pers.read ["mine", "n"])"), R"({"data":["8","1"]})");
 
+        QVERIFY(cell.control("set power on").isDone() && cell.control("program start").isDone());
+        QCOMPARE(cell.ask("var set mine 9"), "true"); // stays when the panel says it again
+        QCOMPARE(request(cell, R"(project.overview.open {"name": "P 1"})"), "true");
+        QCOMPARE(request(cell, R"(hub monitor.pers.read ["mine"])"), R"({"data":["9"]})");
+        QVERIFY(cell.control("program stop").isDone());
+
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("{\"variables\": [");
         file.close();

@@ -86,6 +86,30 @@ private slots:
             "timeline[0].do[1]: ", "unknown control command 'jump'");
         row("quit is for people", R"({"timeline": [{"do": "quit"}]})",
             "timeline[0].do: ", "unknown");
+        row("signal type", R"({"io": {"signals": [{"name": "a", "type": "di"}]}})",
+            "io.signals[0].type: ", "DI, DO");
+        row("signal value", R"({"io": {"signals": [{"name": "a", "type": "GI", "value": -1}]}})",
+            "io.signals[0].value: ", "does not fit");
+        row("signal without a name", R"({"io": {"signals": [{"name": ""}]}})",
+            "io.signals[0].name: ", "1 to 255");
+        row("two signals", R"({"io": {"signals": [{"name": "a"}, {"name": "a"}]}})",
+            "io.signals[1]: ", "'a' is there twice");
+        row("system signal", R"({"io": {"signals": [{"name": "a", "type": "DO"}],
+            "system_inputs": [{"signal": "a", "function": "motor_on"}]}})",
+            "io.system_inputs[0].signal: ", "the name of a DI");
+        row("system function", R"({"io": {"signals": [{"name": "a"}],
+            "system_inputs": [{"signal": "a", "function": "jump"}]}})",
+            "io.system_inputs[0].function: ", "motor_off, motor_on");
+        row("register", R"({"registers": [{"name": "R", "value": ["1", 2]}]})",
+            "registers[0].value[1]: ", "expected a text");
+        row("autoload", R"({"project": {"autoload": "../x"}})",
+            "project.autoload: ", "no name of a project");
+        row("rule without effect", R"({"hot_update": [{"operator": "add"}]})",
+            "hot_update[0].reply: ", "either a reply or a reason");
+        row("rule with two", R"({"hot_update": [{"reply": 1, "reason": "x"}]})",
+            "hot_update[0].reply: ", "either a reply or a reason");
+        row("program", R"({"program": {"every": 100, "do": ["var put x 1"]}})",
+            "program.do[0]: ", "usage: var set");
         row("tool of the system", R"({"tools": {"project": [{"name": "tool0"}]}})",
             "tools.project[0].name: ", "belongs to the system");
         row("work object twice", R"({"wobjs": {"global": [{"name": "a"}, {"name": "a"}]}})",

@@ -4,7 +4,9 @@
 #include "homepage.h"
 #include "robotreadings.h"
 #include "robotstate.h"
+#include "runkeys.h"
 #include "statusbadge.h"
+#include "waitstrip.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -72,6 +74,7 @@ void MainWindow::buildLayout()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_statusBar);
+    column->addWidget(new WaitStrip(this));
     column->addLayout(row, 1);
     column->addWidget(new brisa::LogBanner(this));
     new brisa::ModalCounter(this);
@@ -90,6 +93,8 @@ void MainWindow::fillStatusBar()
     m_run = addBadge(QStringLiteral("panel.status.run"));
     m_statusBar->addBeforeItem(nullptr, QStringLiteral("panel.status.clock"), QString(),
                                new ClockLabel(m_statusBar));
+    m_statusBar->addBeforeItem(nullptr, QStringLiteral("panel.status.run_keys"), QString(),
+                               new RunKeys(m_robot, m_statusBar));
 }
 
 StatusBadge *MainWindow::addBadge(const QString &name)

@@ -21,9 +21,9 @@ class RobotState;
 class StatusBadge;
 
 /**
- * The panel's window of 1280 x 800: status bar on top, then navigation, centre area, right side bar
- * and physical keys side by side, the log banner below. It is dimmed while a plugin shows a modal
- * window.
+ * The panel's window of 1280 x 800: status bar with the keys to start and stop the program on top,
+ * below it what waits for a plugin, then navigation, centre area, right side bar and physical keys
+ * side by side, the log banner at the bottom. It is dimmed while a plugin shows a modal window.
  */
 class MainWindow : public QWidget
 {

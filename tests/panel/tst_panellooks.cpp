@@ -68,6 +68,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("theme");
         const QList<QPair<QString, QString>> states {
             {"idle", "panel.home"},         {"running", "panel.home"},
+            {"starting", "panel.home"},     {"stopping", "panel.home"},
             {"offline", "panel.home"},      {"sidebar", "panel.home"},
             {"history", "panel.home"},      {"modal", "panel.home"},
             {"crowded", "panel.home"},      {"idle", "zeplet.zeplet"},
@@ -137,6 +138,13 @@ private Q_SLOTS:
     {
         m_crowd.reset();
         m("brisa.msg._")->set(nullptr, 0, true);
+        auto *const cancel = window().findChild<QPushButton *>("cancelWaiting");
+        if (cancel->isVisible())
+            QTest::mouseClick(cancel, Qt::LeftButton);
+        QVERIFY(!cancel->isVisible());
+        for (const char *what : {"run", "stop"})
+            m("brisa.r.zeplet.filter")->set(nullptr, what, false, true);
+        window().findChild<brisa::LogBanner *>()->clear();
         window().findChild<brisa::LogBanner *>()->setHistoryVisible(false);
         window().findChild<kest::ExpandSideBar *>()->hide();
         if (m_offline) {
@@ -171,6 +179,8 @@ private:
     {
         if (state == "running")
             startProgram();
+        else if (state == "starting" || state == "stopping")
+            waitForPlugin(state == "starting" ? "run" : "stop");
         else if (state == "offline")
             goOffline();
         else if (state == "sidebar")
@@ -193,6 +203,19 @@ private:
         m_simulator.control("set mode auto");
         m_simulator.control("program start");
         QTRY_COMPARE(m("brisa.r.state")->getStr(""), QString("program"));
+    }
+
+    /** The operator's key is pressed while a plugin wants to be asked first. */
+    void waitForPlugin(const QString &what)
+    {
+        if (what == "stop")
+            startProgram();
+        m("brisa.r.zeplet.filter." + what)->set(nullptr, true);
+        auto *const key
+            = window().findChild<QPushButton *>(what == "run" ? "startProgram" : "stopProgram");
+        QTest::mouseClick(key, Qt::LeftButton);
+        QCOMPARE(m("brisa.r.zeplet.waiting")->getStr(""), what);
+        QVERIFY(window().findChild<QPushButton *>("cancelWaiting")->isVisible());
     }
 
     void goOffline()

@@ -19,7 +19,7 @@ ALLOWED = {
     "simulator": {"host/link"},
     "panel": {"host"},
     "panel/plugins": {"src", "host"},
-    "examples": {"src"},
+    "examples": {"src", "host"},
 }
 
 # How headers of an area are spelled in an #include: the folder, and what takes its place.

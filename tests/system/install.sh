@@ -16,19 +16,26 @@ if find "$work/prefix" -name '*_p.h' | grep .; then
     exit 1
 fi
 
-if [ "$(ls "$work/prefix/lib/zeplet/plugins")" != monitor.so ]; then
+examples=$(cd "$root/examples" && ls -d */ | tr -d /)
+if [ "$(ls "$work/prefix/lib/zeplet/plugins")" != "$(sed 's/$/.so/' <<<"$examples")" ]; then
     echo "an installed panel is to find the examples and nothing else:" >&2
     ls "$work/prefix/lib/zeplet/plugins" >&2
     exit 1
 fi
 
-# A copy outside the project proves that it needs nothing but the installation.
-cp -r "$root/examples/monitor" "$work/monitor"
-cmake -S "$work/monitor" -B "$work/monitor/build" "${options[@]}" >/dev/null
-cmake --build "$work/monitor/build"
-QT_QPA_PLATFORM=offscreen "$work/prefix/bin/zeplet-panel" --runtime "$work/run" \
-    --plugins "$work/monitor/build/plugins" --for 0.5
-grep "'monitor' init" "$work"/run/log/zeplet_*.log
+# Copies outside the project prove that each needs nothing but the installation.
+plugins=()
+for example in $examples; do
+    cp -r "$root/examples/$example" "$work/$example"
+    cmake -S "$work/$example" -B "$work/alone/$example" "${options[@]}" >/dev/null
+    cmake --build "$work/alone/$example"
+    plugins+=(--plugins "$work/alone/$example/plugins")
+done
+QT_QPA_PLATFORM=offscreen "$work/prefix/bin/zeplet-panel" --runtime "$work/run" "${plugins[@]}" \
+    --for 0.5
+for example in $examples; do
+    grep "'$example' init" "$work"/run/log/zeplet_*.log
+done
 
 # A name that a panel would refuse is refused when the plugin is configured.
 mkdir "$work/named"
@@ -57,7 +64,7 @@ fi
 
 # What the two builds made must load with every symbol resolved.
 export LD_LIBRARY_PATH=$work/prefix/lib
-for library in $(find "$work/monitor/build" "$work/library" -name '*.so'); do
+for library in $(find "$work/alone" "$work/library" -name '*.so'); do
     echo "checking $library"
     if ldd -r "$library" | grep -E 'not found|undefined symbol'; then
         exit 1

@@ -1,0 +1,169 @@
+// Persistent variables of the robot's programs: to watch them and to write new values.
+#include <zeplet/zeplet.h>
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableWidget>
+
+using namespace zeplet;
+
+namespace
+{
+const QString pluginName = QStringLiteral("persistent");
+const QString valuesKey = QStringLiteral("monitor.values"); // the hub's, of what is selected
+
+// A number or "true" as what it is; anything else as text.
+QVariant valueOf(const QString &text)
+{
+    const QJsonArray values = QJsonDocument::fromJson('[' + text.toUtf8() + ']').array();
+    return values.size() == 1 ? values.at(0).toVariant() : QVariant(text);
+}
+} // namespace
+
+class PersistentPlugin : public PluginBase
+{
+    Q_OBJECT
+
+public:
+    explicit PersistentPlugin(QObject *parent)
+        : PluginBase(parent)
+    {
+        setPluginLabel(tr("Persistent"));
+    }
+
+    void init() override;
+    void detach() override { delete m_page; }
+
+private:
+    QLayout *createLine();
+    void watch();
+    void write();
+    void follow(const QVariantMap &values);
+    void say(int code, const QString &done);
+
+    QPointer<QWidget> m_page;
+    QLineEdit *m_name = nullptr;
+    QLineEdit *m_value = nullptr;
+    QTableWidget *m_table = nullptr;
+    QLabel *m_notice = nullptr;
+    QVector<QString> m_names; ///< a row each
+};
+
+void PersistentPlugin::init()
+{
+    m_page = new QWidget;
+    auto *title = new QLabel(tr("Persistent variables"));
+    title->setProperty("role", "heading");
+    m_table = new QTableWidget(0, 2);
+    m_table->setHorizontalHeaderLabels({tr("Variable"), tr("Value")});
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(53); // a finger's width
+    m_table->setSelectionBehavior(QTableWidget::SelectRows);
+    m_table->setEditTriggers(QTableWidget::NoEditTriggers);
+    m_table->setShowGrid(false);
+    m_notice = new QLabel(tr("Type the name of a variable, then tap Watch."));
+    m_notice->setTextFormat(Qt::PlainText); // a name is no markup
+    auto *layout = new QVBoxLayout(m_page);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(16);
+    layout->addWidget(title);
+    layout->addLayout(createLine());
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_notice);
+    CreateCenterWidget(pluginName, m_page);
+
+    // The first starts the delivery, the second ends with the page.
+    zepletInterface()->connectNexoData(pluginName, valuesKey, {});
+    zepletEvent()->subscribeFiltered(
+        NexoDataChange, filterByServiceKey(valuesKey),
+        adaptNexoCallback([this](const QVariant &values) { follow(values.toMap()); }), pluginName,
+        m_page);
+}
+
+QLayout *PersistentPlugin::createLine()
+{
+    auto *line = new QHBoxLayout;
+    m_name = new QLineEdit;
+    m_name->setPlaceholderText(tr("Name of a variable"));
+    m_value = new QLineEdit;
+    m_value->setPlaceholderText(tr("Value for the selected one"));
+    auto *watch = new QPushButton(tr("Watch"));
+    auto *write = new QPushButton(tr("Write"));
+    for (QWidget *widget : std::initializer_list<QWidget *> {m_name, watch, m_value, write})
+        line->addWidget(widget);
+    connect(watch, &QPushButton::clicked, this, &PersistentPlugin::watch);
+    connect(write, &QPushButton::clicked, this, &PersistentPlugin::write);
+    return line;
+}
+
+// The selection belongs to the whole panel: what others watch stays in it.
+void PersistentPlugin::watch()
+{
+    const QString name = m_name->text().trimmed();
+    if (!zepletInterface()->getRobotConnected())
+        return m_notice->setText(tr("Connect the controller first, then tap Watch again."));
+    if (name.isEmpty() || m_names.contains(name))
+        return m_notice->setText(tr("Type the name of a variable that is not in the table yet."));
+    QVector<QString> all {name};
+    for (const QVariant &other : zepletInterface()->getRegistedPERSVars())
+        all.append(other.toString());
+    const int code = zepletInterface()->registPERSVars(all);
+    const QString value = zepletInterface()->getValuesOfPERSVars({name}).constFirst();
+    say(code,
+        value.isEmpty() ? tr("\"%1\" has no value yet, or another name.").arg(name)
+                        : tr("\"%1\" is watched. Select it to write a value.").arg(name));
+    if (code != 0)
+        return;
+    m_names.append(name);
+    m_table->setRowCount(m_names.size());
+    m_table->setItem(m_names.size() - 1, 0, new QTableWidgetItem(name));
+    m_table->setItem(m_names.size() - 1, 1, new QTableWidgetItem(value));
+}
+
+void PersistentPlugin::write()
+{
+    if (!zepletInterface()->getRobotConnected())
+        return m_notice->setText(tr("Connect the controller first, then tap Write again."));
+    const QString name = m_names.value(m_table->currentRow());
+    if (name.isEmpty())
+        return m_notice->setText(tr("Select a variable in the table first."));
+    say(zepletInterface()->setValuesOfPERSVars({name}, {valueOf(m_value->text())}),
+        tr("Sent to \"%1\". The table shows what the controller made of it.").arg(name));
+}
+
+void PersistentPlugin::follow(const QVariantMap &values)
+{
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (m_names.contains(it.key()))
+            m_table->item(m_names.indexOf(it.key()), 1)->setText(it->toString());
+    }
+}
+
+// Each result code is a sentence that says what to do next.
+void PersistentPlugin::say(int code, const QString &done)
+{
+    if (code == 0)
+        return m_notice->setText(done);
+    if (code == -1)
+        return m_notice->setText(tr("Only finite numbers can be sent. Type another value."));
+    const QString version = zepletInterface()->getNodeData("brisa.r.version").toString();
+    m_notice->setText(
+        tr("The controller has version \"%1\"; 2.3, 3.0, 3.1 or 3.2 is needed.").arg(version));
+}
+
+// Runs when the panel loads the library: from here on it knows the plugin by name.
+static const bool registered = [] {
+    zepletFactory().regist(pluginName,
+                           [](QObject *parent) { return new PersistentPlugin(parent); });
+    return true;
+}();
+
+#include "persistentplugin.moc"

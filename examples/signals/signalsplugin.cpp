@@ -1,0 +1,178 @@
+// The robot's signals with their live values, and the registers; digital signals can be set.
+#include <zeplet/zeplet.h>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableWidget>
+
+using namespace zeplet;
+
+namespace
+{
+const QString pluginName = QStringLiteral("signals");
+const QString valuePath = QStringLiteral("io.signal_value"); // the controller's notification
+
+QString valueText(const QVariant &value)
+{
+    if (value.userType() != QMetaType::Bool)
+        return value.toString();
+    return value.toBool() ? QStringLiteral("●  1") : QStringLiteral("○  0");
+}
+
+QTableWidget *makeTable(const QString &name, const QString &value)
+{
+    auto *table = new QTableWidget(0, 2);
+    table->setHorizontalHeaderLabels({name, value});
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(53); // a finger's width
+    table->setEditTriggers(QTableWidget::NoEditTriggers);
+    table->setSelectionBehavior(QTableWidget::SelectRows);
+    table->setShowGrid(false);
+    return table;
+}
+
+void addRow(QTableWidget *table, const QString &name, const QString &value)
+{
+    const int row = table->rowCount();
+    table->insertRow(row);
+    table->setItem(row, 0, new QTableWidgetItem(name));
+    table->setItem(row, 1, new QTableWidgetItem(value));
+}
+} // namespace
+
+class SignalsPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SignalsPage();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void refresh();
+    void follow(const QVariantMap &values);
+    void write(bool value);
+
+    QComboBox *m_type = new QComboBox;
+    QTableWidget *m_signals = makeTable(tr("Signal"), tr("Value"));
+    QTableWidget *m_registers = makeTable(tr("Register"), tr("Value"));
+    QLabel *m_notice = new QLabel;
+};
+
+SignalsPage::SignalsPage()
+{
+    auto *title = new QLabel(tr("My signals"));
+    title->setProperty("role", "heading");
+    m_type->addItems({tr("Digital inputs"), tr("Digital outputs"), tr("Group inputs"),
+                      tr("Group outputs"), tr("Analogue inputs"), tr("Analogue outputs")});
+    m_registers->setSelectionMode(QTableWidget::NoSelection);
+    auto *set = new QPushButton(tr("Set to 1"));
+    auto *reset = new QPushButton(tr("Set to 0"));
+    auto *read = new QPushButton(tr("Read again"));
+    auto *header = new QHBoxLayout;
+    header->addWidget(title, 1);
+    for (QWidget *widget : std::initializer_list<QWidget *> {m_type, set, reset, read})
+        header->addWidget(widget);
+    auto *tables = new QHBoxLayout;
+    tables->addWidget(m_signals, 1);
+    tables->addWidget(m_registers, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(16);
+    layout->addLayout(header);
+    layout->addLayout(tables, 1);
+    layout->addWidget(m_notice);
+
+    connect(m_type, QOverload<int>::of(&QComboBox::activated), this, &SignalsPage::refresh);
+    connect(read, &QPushButton::clicked, this, &SignalsPage::refresh);
+    connect(set, &QPushButton::clicked, this, [this] { write(true); });
+    connect(reset, &QPushButton::clicked, this, [this] { write(false); });
+    // The first starts the delivery, the second ends with this page.
+    zepletInterface()->connectRcNotify(pluginName, valuePath, {});
+    zepletEvent()->subscribeFiltered(
+        RCNotifyDataChange, filterByServiceKey(valuePath),
+        adaptNexoCallback([this](const QVariant &values) { follow(values.toMap()); }), pluginName,
+        this);
+}
+
+// Asking takes up to 1.6 s where the controller is slow: not before somebody looks.
+void SignalsPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void SignalsPage::refresh()
+{
+    const QStringList names = zepletInterface()->getIOByType(m_type->currentIndex() + 1);
+    const QHash<QString, QVariant> values = zepletInterface()->getIOHash();
+    const QHash<QString, QStringList> registers = zepletInterface()->getRegisterHash();
+    m_signals->setRowCount(0);
+    for (const QString &name : names)
+        addRow(m_signals, name, valueText(values.value(name)));
+    m_registers->setRowCount(0);
+    for (auto it = registers.begin(); it != registers.end(); ++it)
+        addRow(m_registers, it.key(), it->join(QStringLiteral(", ")));
+    m_registers->sortItems(0);
+    m_notice->setText(values.isEmpty()
+                          ? tr("No values came. Connect the controller, then tap Read again.")
+                          : names.isEmpty() ? tr("The robot has no signals of this kind.")
+                                            : tr("Select a digital signal to set it."));
+}
+
+void SignalsPage::follow(const QVariantMap &values)
+{
+    for (int row = 0; row < m_signals->rowCount(); ++row) {
+        const auto changed = values.find(m_signals->item(row, 0)->text());
+        if (changed != values.end())
+            m_signals->item(row, 1)->setText(valueText(*changed));
+    }
+}
+
+void SignalsPage::write(bool value)
+{
+    if (!zepletInterface()->getRobotConnected())
+        return m_notice->setText(tr("Connect the controller first, then set the signal again."));
+    const int type = m_type->currentIndex() + 1;
+    const int row = m_signals->currentRow();
+    if (row < 0 || type > 2)
+        return m_notice->setText(tr("Select a digital input or output first."));
+    // Always 0: why a signal is refused, the panel tells the operator in its message line.
+    zepletInterface()->setIOValue(m_signals->item(row, 0)->text(), type, value);
+    m_notice->setText(tr("Sent. If the value stays, the line below says why."));
+}
+
+class SignalsPlugin : public PluginBase
+{
+    Q_OBJECT
+
+public:
+    explicit SignalsPlugin(QObject *parent)
+        : PluginBase(parent)
+    {
+        setPluginLabel(tr("My signals"));
+    }
+
+    void init() override { CreateCenterWidget(pluginName, m_page = new SignalsPage); }
+    void detach() override { delete m_page; }
+
+private:
+    QPointer<SignalsPage> m_page;
+};
+
+// Runs when the panel loads the library: from here on it knows the plugin by name.
+static const bool registered = [] {
+    zepletFactory().regist(pluginName, [](QObject *parent) { return new SignalsPlugin(parent); });
+    return true;
+}();
+
+#include "signalsplugin.moc"

@@ -1,6 +1,6 @@
 #include "controlmotion.h"
 
-#include "frames.h"
+#include "numbers.h"
 
 #include <cmath>
 
@@ -43,6 +43,30 @@ ControlLine parseFrame(Words &words)
     return attempt([=, pose = Pose::fromNumbers(*numbers)](Simulator &simulator) {
         return simulator.frames().set(ofKind, ofList, {name, pose});
     });
+}
+
+ControlLine parseJoints(Words &words)
+{
+    const QString what = words.next();
+    if (what == QLatin1String("get") && words.atEnd())
+        return query([](Simulator &simulator) {
+            QJsonArray angles;
+            for (const double angle : simulator.motion().joints())
+                angles += rounded(angle);
+            return angles;
+        });
+    const auto numbers = words.numbers();
+    if (what != QLatin1String("set") || !numbers || numbers->isEmpty())
+        return usage(QStringLiteral("joints set DEGREES ... | joints get"));
+    return attempt(
+        [joints = *numbers](Simulator &simulator) { return simulator.motion().setJoints(joints); });
+}
+
+ControlLine parseMove(Words &words)
+{
+    if (words.rest() != QLatin1String("stop"))
+        return usage(QStringLiteral("move stop"));
+    return step([](Simulator &simulator) { simulator.motion().stop(); });
 }
 
 } // namespace simulator

@@ -1,5 +1,7 @@
 #include "jsonreader.h"
 
+#include "numbers.h"
+
 #include <QJsonArray>
 #include <algorithm>
 #include <cmath>
@@ -133,13 +135,8 @@ QVector<double> JsonReader::numbers(const QString &name, int count,
 {
     if (!has(name))
         return byDefault;
-    QVector<double> numbers;
-    for (const QJsonValue &number : value(name).toArray()) {
-        if (number.isDouble() && std::isfinite(number.toDouble()))
-            numbers += number.toDouble();
-    }
-    if (numbers.size() == count && value(name).toArray().size() == count)
-        return numbers;
+    if (const auto numbers = numbersOf(value(name), count))
+        return *numbers;
     report(name, QStringLiteral("expected an array of %1 numbers").arg(count));
     return byDefault;
 }

@@ -1,5 +1,7 @@
 #include "pose.h"
 
+#include "numbers.h"
+
 #include <QtMath>
 
 namespace simulator
@@ -8,6 +10,13 @@ namespace simulator
 namespace
 {
 constexpr double kMillimetres = 1000.0; ///< in a metre
+
+/** One way to write half a turn. */
+double roundedAngle(double degrees)
+{
+    const double angle = rounded(degrees);
+    return angle == -180.0 ? 180.0 : angle;
+}
 } // namespace
 
 Pose Pose::fromNumbers(const QVector<double> &numbers)
@@ -34,8 +43,9 @@ KDL::Frame Pose::toFrame() const
 
 QJsonObject Pose::toJson() const
 {
-    return {{QStringLiteral("x"), x}, {QStringLiteral("y"), y}, {QStringLiteral("z"), z},
-            {QStringLiteral("a"), a}, {QStringLiteral("b"), b}, {QStringLiteral("c"), c}};
+    return {{QStringLiteral("x"), rounded(x)},      {QStringLiteral("y"), rounded(y)},
+            {QStringLiteral("z"), rounded(z)},      {QStringLiteral("a"), roundedAngle(a)},
+            {QStringLiteral("b"), roundedAngle(b)}, {QStringLiteral("c"), roundedAngle(c)}};
 }
 
 } // namespace simulator

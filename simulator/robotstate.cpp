@@ -39,6 +39,8 @@ Refusal RobotState::startProgram()
         return QStringLiteral("a program cannot start while the motors are off");
     if (m_values.program)
         return QStringLiteral("a program runs already");
+    if (m_moving)
+        return QStringLiteral("a program cannot start while the robot moves");
     assign(m_values.program, true);
     return std::nullopt;
 }

@@ -35,8 +35,10 @@ public:
     void setPower(bool on);
     /** Refused while a program runs. */
     Refusal setAutomatic(bool automatic);
-    /** Refused while the motors are off or a program runs already. */
+    /** Refused while the motors are off, a program runs already or the arm moves. */
     Refusal startProgram();
+    /** While the arm moves by itself no program starts. */
+    void setMoving(bool moving) { m_moving = moving; }
     /** Stopping an idle robot changes nothing. */
     void stopProgram();
 
@@ -61,6 +63,7 @@ private:
     void assign(T &member, const T &value);
 
     Values m_values;
+    bool m_moving = false;
 };
 
 } // namespace simulator

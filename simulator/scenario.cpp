@@ -61,6 +61,16 @@ void checkHub(const QJsonObject &tree, const QString &path, JsonError &error)
     }
 }
 
+Joints readJoints(JsonReader &reader, Arm::Kind kind)
+{
+    const Arm arm(kind);
+    const QString name = QStringLiteral("joints");
+    const Joints joints = reader.numbers(name, arm.axisCount(), {});
+    if (const auto refusal = joints.isEmpty() ? std::nullopt : arm.checkJoints(joints))
+        reader.report(name, *refusal);
+    return joints;
+}
+
 QHash<QString, QJsonValue> toHash(const QJsonObject &object)
 {
     QHash<QString, QJsonValue> hash;
@@ -162,14 +172,17 @@ Program::Values readProgram(const QJsonValue &value, JsonError &error)
 Scenario readScenario(const QJsonObject &document, JsonError &error)
 {
     JsonReader reader(document, QString(), error);
-    reader.allowOnly({QStringLiteral("robot"), QStringLiteral("hub"), QStringLiteral("answers"),
-                      QStringLiteral("faults"), QStringLiteral("timeline"), QStringLiteral("tools"),
-                      QStringLiteral("wobjs"), QStringLiteral("io"), QStringLiteral("registers"),
-                      QStringLiteral("project"), QStringLiteral("system_variables"),
-                      QStringLiteral("variables"), QStringLiteral("hot_update"),
-                      QStringLiteral("program")});
+    reader.allowOnly({QStringLiteral("robot"), QStringLiteral("arm"), QStringLiteral("joints"),
+                      QStringLiteral("hub"), QStringLiteral("answers"), QStringLiteral("faults"),
+                      QStringLiteral("timeline"), QStringLiteral("tools"), QStringLiteral("wobjs"),
+                      QStringLiteral("io"), QStringLiteral("registers"), QStringLiteral("project"),
+                      QStringLiteral("system_variables"), QStringLiteral("variables"),
+                      QStringLiteral("hot_update"), QStringLiteral("program")});
     Scenario scenario;
     scenario.robot = readRobot(reader.value(QStringLiteral("robot")), error);
+    scenario.arm
+        = static_cast<Arm::Kind>(reader.choice(QStringLiteral("arm"), Arm::kindNames(), 0));
+    scenario.joints = readJoints(reader, scenario.arm);
     scenario.frames = readFrames(reader, error);
     scenario.hub = reader.object(QStringLiteral("hub"));
     checkHub(scenario.hub, QStringLiteral("hub"), error);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "answers.h"
+#include "arm.h"
 #include "faults.h"
 #include "fileserver.h"
 #include "frames.h"
@@ -31,6 +32,8 @@ struct TimelineStep {
 /** What a simulator starts with. Members and their defaults: docs/simulator.md. */
 struct Scenario {
     RobotState::Values robot;
+    Arm::Kind arm = Arm::Kind::Six;
+    Joints joints; ///< within the arm's limits; empty: its natural pose
     Frames::Values frames;
     QJsonObject hub;
     Answers answers;

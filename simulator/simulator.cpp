@@ -6,6 +6,9 @@
 #include "hubcommands.h"
 #include "iocommands.h"
 #include "monitor.h"
+#include "motioncommands.h"
+#include "pathcheck.h"
+#include "positioncommands.h"
 #include "programcommands.h"
 #include "projectcommands.h"
 #include "statecommands.h"
@@ -23,6 +26,8 @@ public:
     explicit Private(const Scenario &scenario)
         : robot(scenario.robot)
         , frames(scenario.frames)
+        , arm(scenario.arm)
+        , motion(arm, robot, scenario.joints.isEmpty() ? arm.naturalPose() : scenario.joints)
         , hub(scenario.hub)
         , answers(scenario.answers)
         , timeline(scenario.timeline)
@@ -39,8 +44,19 @@ public:
             faults.add(fault);
     }
 
+    /** The panel's points are in "_temp" as long as no project is open. */
+    QString pointsFile() const
+    {
+        const QString file = QStringLiteral("point.json");
+        if (!projects.current().isEmpty() || files.root().isEmpty())
+            return projects.filePath(file);
+        return files.root() + QStringLiteral("/_temp/") + file;
+    }
+
     RobotState robot;
     Frames frames;
+    Arm arm;
+    Motion motion;
     HubData hub;
     Faults faults;
     Answers answers;
@@ -59,6 +75,7 @@ public:
     CommandRegistry controllerRegistry {answers.controller};
     StateCommands stateCommands {controllerRegistry, robot};
     ProgramCommands programCommands {controllerRegistry, robot};
+    PositionCommands positionCommands {controllerRegistry, arm, motion, frames};
     IoCommands ioCommands {controllerRegistry, io, registers};
     CommandRegistry hubRegistry;
     CommandRegistry hubKeys {answers.hub}; ///< what `hub.command` carries out, by key
@@ -67,6 +84,9 @@ public:
         controllerRegistry, hubKeys, {projects, frames, systemVariables, robot}};
     HotUpdate hotUpdate;
     Monitor monitor {hubKeys, {hub, variables, robot}};
+    MotionKeys motionKeys {hub, arm, motion};
+    MotionCommands motionCommands {hubKeys, {robot, frames, hub, motion, motionKeys}};
+    PathCheck pathCheck {hubKeys, {arm, motion, frames, [this] { return pointsFile(); }}};
 
     Endpoint controllerEnd {QStringLiteral("controller"), {controllerRegistry, faults, requests}};
     Endpoint hubEnd {QStringLiteral("hub"), {hubRegistry, faults, requests}};
@@ -232,6 +252,11 @@ Projects &Simulator::projects()
 Variables &Simulator::variables()
 {
     return d->variables;
+}
+
+Motion &Simulator::motion()
+{
+    return d->motion;
 }
 
 HubData &Simulator::hub()

@@ -6,6 +6,7 @@
 #include "frames.h"
 #include "hubdata.h"
 #include "iosignals.h"
+#include "motion.h"
 #include "projects.h"
 #include "registers.h"
 #include "reply.h"
@@ -52,6 +53,7 @@ public:
     Registers &registers();
     Projects &projects();
     Variables &variables();
+    Motion &motion();
     HubData &hub();
     Faults &faults();
     Answers &answers();

@@ -116,6 +116,10 @@ private slots:
             "wobjs.global[1].name: ", "twice");
         row("short pose", R"({"tools": {"project": [{"name": "a", "pose": [1, 2]}]}})",
             "tools.project[0].pose: ", "6 numbers");
+        row("joints of another arm", R"({"arm": "seven", "joints": [0, 0, 0, 0, 0, 0]})",
+            "joints: ", "7 numbers");
+        row("joint beyond its limit", R"({"joints": [0, 0, 0, 0, 130, 0]})",
+            "joints: ", "axis 5 goes from -125 to 125");
         row("too fast", R"({"timeline": [{"every": 1, "do": "state"}]})",
             "timeline[0].every: ", "10");
     }

@@ -109,7 +109,13 @@ private slots:
                           params.isEmpty() ? QJsonValue(QJsonValue::Undefined) : json(params));
         QCOMPARE(answer["jsonrpc"], QJsonValue("2.0"));
         QCOMPARE(answer.contains("result"), !result.isEmpty());
-        QCOMPARE(answer["result"], json("{\"result\": " + result + '}').value("result"));
+        QJsonValue given = answer["result"];
+        if (method == "hub.snapshot") { // it shows the arm, too
+            QJsonObject tree = given.toObject();
+            QVERIFY(!tree.take("motion").isUndefined() && !tree.take("move").isUndefined());
+            given = tree;
+        }
+        QCOMPARE(given, json("{\"result\": " + result + '}').value("result"));
         QCOMPARE(answer["error"]["code"].toInt(), code);
         const QString message = answer["error"]["message"].toString();
         QVERIFY2(message.contains(reason), qPrintable(message));
@@ -131,7 +137,7 @@ private slots:
         };
         done({"  hub   set  a.b   {\"x\": [1, 2]} ", "hub get a.b.x"}, QJsonArray {1, 2});
         done({"hub set a \"text with  blanks\"", "hub get a"}, "text with  blanks");
-        done({"hub set a.b 1", "hub set a 2", "hub get"}, json(R"({"a": 2})"));
+        done({"hub set a.b 1", "hub set a 2", "hub get a"}, 2);
         done({"fault late_answer x * 20", "fault clear", "program stop"}, true);
         fails({"program start"}, "motors are off");
         fails({"set power on", "program start", "set mode auto"}, "program runs");
@@ -149,6 +155,10 @@ private slots:
         fails({"frame set tool project g 0 0 nan 0 0 0"}, "usage: frame");
         fails({"frame set tool global tool0 0 0 0 0 0 0"}, "belongs to the system");
         fails({"frame remove wobj global g"}, "no 'g'");
+        done({"joints set 10 0 0 0 90 -5.5", "joints get"}, QJsonArray {10, 0, 0, 0, 90, -5.5});
+        fails({"joints set 10 0"}, "6 axes");
+        fails({"joints set 10 0 0 0 126 0"}, "axis 5");
+        fails({"move"}, "usage: move stop");
         fails({"notify p"}, "usage: notify");
         fails({"notify p x"}, "not JSON");
         fails({"answer plugin p 1"}, "ARRAY");

@@ -191,7 +191,8 @@ void ControllerManager::Private::cache(const QString &command, const QJsonValue 
 void ControllerManager::Private::failed(const QString &command, const rpc::Answer &answer)
 {
     client.logFailure(command, answer);
-    Q_EMIT q->requestFailed(command, rpc::reasonOf(answer));
+    Q_EMIT q->requestFailed(command, rpc::reasonOf(answer),
+                            answer.status == rpc::Answer::Status::Refused);
 }
 
 // Projects lie in a directory of the robot's identity.

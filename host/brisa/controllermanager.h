@@ -82,8 +82,8 @@ Q_SIGNALS:
     /** The link was lost; expected: it was closed on purpose by this side. */
     void rcDisconnected(bool expected);
     /** A request without waiting came to no result; reason is one line, what the controller wrote
-     *  where it refused. */
-    void requestFailed(const QString &command, const QString &reason);
+     *  where it refused. Not refused: it may have been carried out. */
+    void requestFailed(const QString &command, const QString &reason, bool refused);
 
 private:
     class Private;

@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
+#include <QHash>
 
 namespace ostrel
 {
@@ -14,10 +14,11 @@ namespace ostrel
 namespace
 {
 
-QSet<QString> &files()
+/** The word for each path. */
+QHash<QString, QString> &files()
 {
-    static QSet<QString> paths;
-    return paths;
+    static QHash<QString, QString> words;
+    return words;
 }
 
 QString spelling(const QString &path)
@@ -25,10 +26,10 @@ QString spelling(const QString &path)
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-QString freeName(const QString &path)
+QString freeName(const QString &path, const QString &word)
 {
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
-    const QString name = path + QLatin1String(".damaged-") + time;
+    const QString name = path + QLatin1Char('.') + word + QLatin1Char('-') + time;
     QString free = name;
     for (int i = 2; QFileInfo(free).isSymLink() || QFileInfo::exists(free); ++i)
         free = name + QLatin1Char('-') + QString::number(i);
@@ -37,28 +38,29 @@ QString freeName(const QString &path)
 
 } // namespace
 
-void keepBeforeWriting(const QString &path, bool keep)
+void keepBeforeWriting(const QString &path, const QString &word)
 {
-    if (keep)
-        files().insert(spelling(path));
-    else
+    if (word.isEmpty())
         files().remove(spelling(path));
+    else
+        files().insert(spelling(path), word);
 }
 
 bool keepCopy(const QString &path, QString *error)
 {
     const QString file = spelling(path);
-    if (!files().contains(file))
+    const QString word = files().value(file);
+    if (word.isEmpty())
         return true;
     // What is no plain file is not replaced either.
     const QFileInfo info(file);
     if (info.isSymLink() || !info.isFile())
         return true;
-    const QString copy = freeName(file);
+    const QString copy = freeName(file, word);
     if (!copyDurably(file, copy, error))
         return false;
     files().remove(file);
-    infoLine() << "writeToJson: the damaged " << file << " is kept as " << copy;
+    infoLine() << "writeToJson: what " << file << " held is kept as " << copy;
     return true;
 }
 

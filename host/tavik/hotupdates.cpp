@@ -93,7 +93,7 @@ void HotUpdates::forward(const QString &operation)
                                           report(names, refusal(answer, problem));
                                       });
     if (!sent)
-        report(names, tr("it could not be sent"));
+        report(names, tr("too many requests wait"));
 }
 
 } // namespace tavik

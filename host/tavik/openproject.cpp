@@ -117,6 +117,7 @@ void OpenProject::follow(const QString &project)
 void OpenProject::followIdentity()
 {
     m_autoloadDone = false;
+    keepScratch();
     const QString project = currentNode()->getStr(QString());
     if (project.isEmpty() || project.section(QLatin1Char('/'), 0, 0) == robotName())
         return;
@@ -133,7 +134,7 @@ void OpenProject::load(const RecordFile &file, const QString &directory)
     records.reset(ostrel::Node::Kind::List);
     QString problem;
     const bool damaged = readRecords(file, path, &records, &problem) == ReadResult::Damaged;
-    ostrel::keepBeforeWriting(path, damaged);
+    ostrel::keepBeforeWriting(path, damaged ? QStringLiteral("damaged") : QString());
     if (damaged)
         tellDamage(path, problem);
     rpc::deliver(QLatin1String(file.key), [&] {
@@ -157,6 +158,16 @@ void OpenProject::empty()
     setWhereDifferent(QStringLiteral("tavik.project.project_info"), QJsonObject(), this);
     for (const RecordFile &file : {pointFile(), variableFile()})
         setWhereDifferent(QLatin1String(file.key), QJsonArray(), this);
+    keepScratch();
+}
+
+/** Without an open project, saves replace the scratch project's files. */
+void OpenProject::keepScratch()
+{
+    const QString directory = projectDirectory(QStringLiteral("_temp"));
+    for (const RecordFile &file : {pointFile(), variableFile()})
+        ostrel::keepBeforeWriting(directory + QLatin1Char('/') + QLatin1String(file.fileName),
+                                  QStringLiteral("kept"));
 }
 
 void OpenProject::tellController()

@@ -43,6 +43,7 @@ private:
     void load(const RecordFile &file, const QString &directory);
     void loadInfo(const QString &directory);
     void empty();
+    void keepScratch();
     void tellController();
 
     brisa::ControllerManager *m_controller;

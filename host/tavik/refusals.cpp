@@ -10,34 +10,33 @@ namespace tavik
 namespace
 {
 
-struct Refusal {
+struct Request {
     const char *command;
-    const char *sentence; ///< with the reason
+    const char *subject;
     const char *advice;
 };
 
-constexpr Refusal refusals[] = {
-    {"rl_program.start", QT_TRANSLATE_NOOP("tavik", "The program was not started: %1."),
+constexpr char checkRobot[]
+    = QT_TRANSLATE_NOOP("tavik", "If the robot moves, use the emergency stop.");
+constexpr char stopFirst[] = QT_TRANSLATE_NOOP("tavik", "Stop the program, then try again.");
+
+constexpr Request requests[] = {
+    {"rl_program.start", QT_TRANSLATE_NOOP("tavik", "The start of the program"),
      QT_TRANSLATE_NOOP("tavik", "Remove the cause, then press Start again.")},
-    {"rl_program.stop", QT_TRANSLATE_NOOP("tavik", "The program was not stopped: %1."),
-     QT_TRANSLATE_NOOP("tavik", "If the robot moves, use the emergency stop.")},
-    {"system.state.switch_motor_on",
-     QT_TRANSLATE_NOOP("tavik", "The motors were not switched on: %1."),
+    {"rl_program.stop", QT_TRANSLATE_NOOP("tavik", "The stop of the program"), checkRobot},
+    {"system.state.switch_motor_on", QT_TRANSLATE_NOOP("tavik", "Switching the motors on"),
      QT_TRANSLATE_NOOP("tavik", "Remove the cause, then switch them on again.")},
-    {"system.state.switch_motor_off",
-     QT_TRANSLATE_NOOP("tavik", "The motors were not switched off: %1."),
-     QT_TRANSLATE_NOOP("tavik", "If the robot moves, use the emergency stop.")},
-    {"system.state.switch_manual", QT_TRANSLATE_NOOP("tavik", "The mode stays automatic: %1."),
-     QT_TRANSLATE_NOOP("tavik", "Stop the program, then change the mode.")},
-    {"system.state.switch_auto", QT_TRANSLATE_NOOP("tavik", "The mode stays manual: %1."),
-     QT_TRANSLATE_NOOP("tavik", "Stop the program, then change the mode.")},
-    {"io.io_signal.set_signal_value", QT_TRANSLATE_NOOP("tavik", "The signal was not set: %1."),
+    {"system.state.switch_motor_off", QT_TRANSLATE_NOOP("tavik", "Switching the motors off"),
+     checkRobot},
+    {"system.state.switch_manual", QT_TRANSLATE_NOOP("tavik", "The change to manual mode"),
+     stopFirst},
+    {"system.state.switch_auto", QT_TRANSLATE_NOOP("tavik", "The change to automatic mode"),
+     stopFirst},
+    {"io.io_signal.set_signal_value", QT_TRANSLATE_NOOP("tavik", "Setting the signal"),
      QT_TRANSLATE_NOOP("tavik", "Check the signal's name and type.")},
     {"io.io_signal.set_input_simu_mode",
-     QT_TRANSLATE_NOOP("tavik", "The simulation of inputs was not switched: %1."),
-     QT_TRANSLATE_NOOP("tavik", "Stop the program, then try again.")},
-    {"project.overview.open",
-     QT_TRANSLATE_NOOP("tavik", "The controller did not open the project: %1."),
+     QT_TRANSLATE_NOOP("tavik", "Switching the simulation of inputs"), stopFirst},
+    {"project.overview.open", QT_TRANSLATE_NOOP("tavik", "Opening the project in the controller"),
      QT_TRANSLATE_NOOP("tavik", "Open it again, or give it another name.")},
 };
 
@@ -47,21 +46,28 @@ QString tr(const char *text)
 }
 
 /** The usual cause is worth naming. */
-QString adviceFor(const Refusal &refusal)
+QString adviceFor(const Request &request)
 {
-    const bool start = refusal.command == QLatin1String("rl_program.start");
+    const bool start = request.command == QLatin1String("rl_program.start");
     if (start && m(QStringLiteral("brisa.r.power"))->getStr(QString()) == QLatin1String("off"))
         return tr("Switch the motors on, then press Start again.");
-    return tr(refusal.advice);
+    return tr(request.advice);
 }
 
 } // namespace
 
-QString refusalSentence(const QString &command, const QString &reason)
+QString failureSentence(const QString &command, const QString &reason, bool refused)
 {
-    for (const Refusal &refusal : refusals) {
-        if (command == QLatin1String(refusal.command))
-            return tr(refusal.sentence).arg(reason) + QLatin1Char(' ') + adviceFor(refusal);
+    for (const Request &request : requests) {
+        if (command != QLatin1String(request.command))
+            continue;
+        if (refused)
+            return tr("%1 was refused: %2. %3")
+                .arg(tr(request.subject), reason, adviceFor(request));
+        return tr("%1 was not confirmed: %2. It may have been carried out: look at the robot "
+                  "before "
+                  "you try again.")
+            .arg(tr(request.subject), reason);
     }
     return QString();
 }

@@ -63,8 +63,8 @@ RobotData::RobotData(QObject *parent)
     d = std::make_unique<Private>(controller);
     connect(&d->lists, &ListMirrors::overviewRead, &d->project, &OpenProject::openAutoload);
     connect(controller, &brisa::ControllerManager::requestFailed, this,
-            [](const QString &command, const QString &reason) {
-                const QString sentence = refusalSentence(command, reason);
+            [](const QString &command, const QString &reason, bool refused) {
+                const QString sentence = failureSentence(command, reason, refused);
                 if (!sentence.isEmpty())
                     tell(QStringLiteral("warning"), sentence);
             });

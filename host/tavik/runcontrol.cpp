@@ -223,7 +223,7 @@ void RunControl::announce(const QString &state)
 void RunControl::send(const QString &command)
 {
     if (!m_controller->request(command, nullptr, requestTimeout))
-        warn(refusalSentence(command, tr("it could not be sent")));
+        warn(failureSentence(command, tr("too many requests wait"), true));
 }
 
 bool RunControl::isRunning() const

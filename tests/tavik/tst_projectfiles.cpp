@@ -123,6 +123,18 @@ private Q_SLOTS:
         QCOMPARE(copies(), 0);
     }
 
+    /** Without an open project the lists start empty, and saves go to the scratch project. */
+    void scratchIsKept()
+    {
+        const QString scratch = QStringLiteral("ws/R1/_temp/point.json");
+        m_peer->write(scratch, points);
+        QVERIFY(ModuleManager::writeToJson(scratch, QJsonArray {1}, true));
+        QVERIFY(ModuleManager::writeToJson(scratch, QJsonArray {2}, true));
+        const QFileInfoList kept = QDir("ws/R1/_temp").entryInfoList({"point.json.kept-*"});
+        QCOMPARE(kept.size(), 1);
+        QCOMPARE(RobotPeer::read(kept.first().filePath()), points);
+    }
+
     void copyThatCannotBeMade()
     {
         const QByteArray damaged(65536, '[');

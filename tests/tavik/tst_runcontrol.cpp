@@ -90,10 +90,11 @@ private Q_SLOTS:
     {
         const struct {
             const char *module, *command, *sentence;
-        } rows[] = {{"rl_program", "start", "The program was not started: because. Switch the "},
-                    {"rl_program", "stop", "The program was not stopped: because. If the robot"},
-                    {"io", "io_signal.set_signal_value", "The signal was not set: because. "},
-                    {"any", "other", ""}};
+        } rows[] = {
+            {"rl_program", "start", "The start of the program was refused: because. Switch the "},
+            {"rl_program", "stop", "The stop of the program was refused: because. If the robot"},
+            {"io", "io_signal.set_signal_value", "Setting the signal was refused: because. "},
+            {"any", "other", ""}};
         for (const auto &[module, command, sentence] : rows) {
             const QString name = QString("%1.%2").arg(module, command);
             m_peer->controller.refuse(name, "because");
@@ -104,6 +105,17 @@ private Q_SLOTS:
             const QString told = m_peer->told();
             QVERIFY2(*sentence ? told.startsWith(sentence) : told.isEmpty(), qPrintable(told));
         }
+    }
+
+    void startThatIsNotConfirmed()
+    {
+        m_peer->controller.script("rl_program.start", [this](const rpc::Message &) {
+            QMetaObject::invokeMethod(this, [this] { m_peer->controller.setListening(false); });
+            return QVector<QByteArray>();
+        });
+        play("start");
+        QTRY_COMPARE(m_peer->banners.size(), 1);
+        QVERIFY(m_peer->told().contains("was not confirmed: the link was lost. It may have been"));
     }
 
     void hotUpdates()

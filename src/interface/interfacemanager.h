@@ -140,16 +140,16 @@ public:
 
     /** The open project as "robot/name"; empty when none is. */
     QString getCurProject();
-    /** The projects of this robot, in the order of the file system. */
+    /** The projects of this robot, in the order of the file system; none without a workspace. */
     QStringList getProjectList();
     /** Makes a project, and opens it if asked to. 0 done, -1 invalid name, -2 exists already, -3
      *  could not be made. Blocks for the disk. */
     int createProject(const QString &name, const QString &description, bool open);
     /** Opens a project. 0 done, -1 invalid name, -2 not found. */
     int changeProject(const QString &name);
-    /** Removes a project with all that is in it, and its task. 0 done, -1 invalid name, -2 not
-     *  found, -3 could not be removed. Blocks for the service hub, the disk and, for the autoload
-     *  project, up to 1600 ms for the controller. */
+    /** Removes a project with all that is in it, and its task; a link, and not its target. 0 done,
+     *  -1 invalid name, -2 not found, -3 could not be removed. Blocks for the service hub, the disk
+     *  and, for the autoload project, up to 1600 ms for the controller. */
     int removeProject(const QString &name);
 
     // IO signals and registers. Signal types: 1 "DI", 2 "DO", 3 "GI", 4 "GO", 5 "AI", 6 "AO".
@@ -185,7 +185,7 @@ public:
 
     /** Selects the variables to be monitored, in place of those before. 0 sent, -240. */
     int registPERSVars(const QVector<QString> &names);
-    /** 0 sent, -1 sizes differ, -240. */
+    /** 0 sent, -1 sizes differ or a number is not finite, -240. */
     int setValuesOfPERSVars(const QVector<QString> &names, const QVector<QVariant> &values);
     /** One text per name, empty where no value came. Blocks until the service hub answers. */
     QVector<QString> getValuesOfPERSVars(const QVector<QString> &names);

@@ -1,4 +1,5 @@
 // The robot's signals with their live values, and the registers; digital signals can be set.
+#include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
 #include <QComboBox>
@@ -59,6 +60,7 @@ protected:
 
 private:
     void refresh();
+    void showRegisters();
     void follow(const QVariantMap &values);
     void write(bool value);
 
@@ -96,6 +98,16 @@ SignalsPage::SignalsPage()
     connect(read, &QPushButton::clicked, this, &SignalsPage::refresh);
     connect(set, &QPushButton::clicked, this, [this] { write(true); });
     connect(reset, &QPushButton::clicked, this, [this] { write(false); });
+    // The catalogue comes with the connection; later, since the panel is still busy with it now.
+    connect(
+        m("tavik.robot.io.signal_detail"), &ostrel::ModuleObject::changed, this,
+        [this] {
+            if (isVisible())
+                refresh();
+        },
+        Qt::QueuedConnection);
+    connect(m("tavik.robot.register._list"), &ostrel::ModuleObject::changed, this,
+            &SignalsPage::showRegisters);
     // The first starts the delivery, the second ends with this page.
     zepletInterface()->connectRcNotify(pluginName, valuePath, {});
     zepletEvent()->subscribeFiltered(
@@ -115,18 +127,23 @@ void SignalsPage::refresh()
 {
     const QStringList names = zepletInterface()->getIOByType(m_type->currentIndex() + 1);
     const QHash<QString, QVariant> values = zepletInterface()->getIOHash();
-    const QHash<QString, QStringList> registers = zepletInterface()->getRegisterHash();
     m_signals->setRowCount(0);
     for (const QString &name : names)
         addRow(m_signals, name, valueText(values.value(name)));
-    m_registers->setRowCount(0);
-    for (auto it = registers.begin(); it != registers.end(); ++it)
-        addRow(m_registers, it.key(), it->join(QStringLiteral(", ")));
-    m_registers->sortItems(0);
+    showRegisters();
     m_notice->setText(values.isEmpty()
                           ? tr("No values came. Connect the controller, then tap Read again.")
                           : names.isEmpty() ? tr("The robot has no signals of this kind.")
                                             : tr("Select a digital signal to set it."));
+}
+
+void SignalsPage::showRegisters()
+{
+    const QHash<QString, QStringList> registers = zepletInterface()->getRegisterHash();
+    m_registers->setRowCount(0);
+    for (auto it = registers.begin(); it != registers.end(); ++it)
+        addRow(m_registers, it.key(), it->join(QStringLiteral(", ")));
+    m_registers->sortItems(0);
 }
 
 void SignalsPage::follow(const QVariantMap &values)

@@ -1,8 +1,10 @@
 #include "fileserver.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QHostAddress>
+#include <QThread>
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -22,6 +24,8 @@ const char *const kSecret = "brisa:729413\n";
 
 /** A port that is free now may be taken when the daemon wants it. */
 constexpr int kAttempts = 3;
+constexpr int kReserveLimitMs = 1000;
+constexpr int kReservePauseMs = 10;
 
 bool isPlain(const QString &path)
 {
@@ -97,11 +101,8 @@ void FileServer::close()
 
 bool FileServer::openOn(quint16 port, QString *error)
 {
-    if (m_reserved.state() != QAbstractSocket::BoundState
-        && !m_reserved.bind(QHostAddress::LocalHost, port, QAbstractSocket::ReuseAddressHint)) {
-        *error = QStringLiteral("files: port %1: %2").arg(port).arg(m_reserved.errorString());
+    if (!reserve(port, error))
         return false;
-    }
     if (m_daemon.start(inDirectory(kConfigFile), m_reserved.localPort(), error)) {
         m_port = m_reserved.localPort();
         return true;
@@ -110,6 +111,24 @@ bool FileServer::openOn(quint16 port, QString *error)
     if (m_port == 0)
         m_reserved.abort();
     return false;
+}
+
+/** The daemon of a simulator that was killed holds its port for a moment longer, and the next one
+ *  that is started with just that port is to have it. */
+bool FileServer::reserve(quint16 port, QString *error)
+{
+    const bool isOnlyOne = m_options.port.value_or(0) != 0;
+    QElapsedTimer waited;
+    waited.start();
+    while (m_reserved.state() != QAbstractSocket::BoundState
+           && !m_reserved.bind(QHostAddress::LocalHost, port, QAbstractSocket::ReuseAddressHint)) {
+        *error = QStringLiteral("files: port %1: %2").arg(port).arg(m_reserved.errorString());
+        m_reserved.abort();
+        if (!isOnlyOne || waited.hasExpired(kReserveLimitMs))
+            return false;
+        QThread::msleep(kReservePauseMs);
+    }
+    return true;
 }
 
 bool FileServer::prepare(QString *error) const

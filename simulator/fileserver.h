@@ -46,6 +46,7 @@ signals:
 private:
     bool prepare(QString *error) const;
     bool openOn(quint16 port, QString *error);
+    bool reserve(quint16 port, QString *error);
     QString inDirectory(const char *name) const;
 
     FileOptions m_options;

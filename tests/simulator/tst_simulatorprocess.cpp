@@ -185,12 +185,13 @@ private slots:
         QTRY_VERIFY(!arrived.entryList(QDir::Files | QDir::Hidden).isEmpty());
 
         running.process.kill();
-        QTRY_COMPARE(rsync.state(), QProcess::NotRunning);
-        QVERIFY(rsync.exitCode() != 0);
+        QVERIFY(running.process.waitForFinished());
         Running again({"--files", directory.filePath("c"), "--rsync-port",
                        QString::number(running.rsyncPort)});
         QVERIFY(again.ready());
         QCOMPARE(again.rsyncPort, running.rsyncPort);
+        QTRY_COMPARE(rsync.state(), QProcess::NotRunning);
+        QVERIFY(rsync.exitCode() != 0);
     }
 
     void demoLooksAlive()

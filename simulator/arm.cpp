@@ -17,7 +17,9 @@ constexpr double kTurn = 360.0;
 constexpr double kQuarterTurn = 90.0;
 /** Rounding may put an angle this far beyond its limit. */
 constexpr double kLimitTolerance = 1e-6;
-constexpr double kPoseTolerance = 1e-8; ///< metres, and radians by kRotationWeight
+/** Rounding must not turn a straight wrist or elbow over. */
+constexpr double kPostureTolerance = 1e-4;
+constexpr double kPoseTolerance = 1e-10; ///< metres, and radians by kRotationWeight
 constexpr double kRotationWeight = 0.1; ///< metres that a radian counts
 constexpr int kIterations = 100;
 constexpr int kSeeds = 40;
@@ -171,9 +173,10 @@ int Arm::posture(const Joints &joints) const
 {
     const KDL::Vector wrist = frameOf(joints, m_model.wrist + 1).p;
     const double ahead = (KDL::Rotation::RotZ(-qDegreesToRadians(joints.first())) * wrist).x();
-    const bool backwards = m_kind == Kind::Six ? ahead < 0 : joints.at(1) < 0;
-    return (joints.at(m_model.wrist) < 0 ? 1 : 0)
-        + (joints.at(m_model.elbow) < m_model.stretched ? 2 : 0) + (backwards ? 4 : 0);
+    const bool backwards = m_kind == Kind::Six ? ahead < 0 : joints.at(1) < -kPostureTolerance;
+    return (joints.at(m_model.wrist) < -kPostureTolerance ? 1 : 0)
+        + (joints.at(m_model.elbow) < m_model.stretched - kPostureTolerance ? 2 : 0)
+        + (backwards ? 4 : 0);
 }
 
 Configuration Arm::configuration(const Joints &joints) const

@@ -58,10 +58,9 @@ MotionProblem Motion::checkReady() const
 
 MotionProblem Motion::prepare(Kind kind, const MotionTarget &target, double speed)
 {
+    withdraw();
     if (auto problem = checkReady())
         return problem;
-    m_waiting.reset();
-    m_enableTimer.stop();
     const PathPlanner planner(m_arm);
     const auto planned
         = kind == Kind::Joint ? planner.joint(m_joints, target) : planner.linear(m_joints, target);
@@ -114,10 +113,15 @@ void Motion::finish()
     emit movingChanged(false);
 }
 
-void Motion::stop()
+void Motion::withdraw()
 {
     m_waiting.reset();
     m_enableTimer.stop();
+}
+
+void Motion::stop()
+{
+    withdraw();
     if (!m_moving)
         return;
     m_travel = m_travel.braked(m_clock() - m_started);
@@ -126,8 +130,7 @@ void Motion::stop()
 
 void Motion::giveUp(const MotionError &error)
 {
-    m_waiting.reset();
-    m_enableTimer.stop();
+    withdraw();
     emit failed(error);
 }
 
@@ -153,8 +156,7 @@ Refusal Motion::setJoints(const Joints &joints)
         return QStringLiteral("the robot moves");
     if (auto refusal = m_arm.checkJoints(joints))
         return refusal;
-    m_waiting.reset(); // it starts elsewhere
-    m_enableTimer.stop();
+    withdraw(); // its path starts elsewhere
     m_joints = joints;
     emit moved();
     return std::nullopt;

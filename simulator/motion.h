@@ -40,6 +40,8 @@ public:
     MotionProblem prepare(Kind kind, const MotionTarget &target, double speed);
     /** Starts the move that waits; without one it does nothing. */
     void enable();
+    /** Gives up the move that waits. */
+    void withdraw();
     /** Slows down to rest and gives up the move that waits. */
     void stop();
 

@@ -18,6 +18,7 @@ MotionCommands::MotionCommands(CommandRegistry &registry, const Context &context
     : m_context(context)
 {
     registry.add(QStringLiteral("move.reset"), [this](const QJsonValue &, Session &) {
+        m_context.motion.withdraw();
         m_context.keys.clearError();
         return Reply {};
     });
@@ -48,6 +49,8 @@ void MotionCommands::addMove(CommandRegistry &registry, const char *name, Motion
 
 Reply MotionCommands::move(Motion::Kind kind, const QJsonValue &request)
 {
+    // The enable that follows a refused move must not start an older one.
+    m_context.motion.withdraw();
     const auto problem = prepare(kind, request);
     if (!problem)
         return {};

@@ -62,13 +62,18 @@ PathCheck::PathCheck(CommandRegistry &registry, const Context &context)
     });
 }
 
-PathCheck::Found PathCheck::find(const QString &name) const
+std::optional<QJsonArray> PathCheck::points() const
 {
     QFile file(m_context.pointsFile());
     if (!file.open(QIODevice::ReadOnly))
-        return noPosition(name, QStringLiteral("the controller has no points of the project"));
+        return std::nullopt;
     const QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();
-    for (const QJsonValue &point : document.value(QStringLiteral("points")).toArray()) {
+    return document.value(QStringLiteral("points")).toArray();
+}
+
+PathCheck::Found PathCheck::find(const QJsonArray &points, const QString &name) const
+{
+    for (const QJsonValue &point : points) {
         if (point[QStringLiteral("name")].toString() == name)
             return read(name, point[QStringLiteral("value")][QStringLiteral("[0][0][0]")]);
     }
@@ -119,8 +124,11 @@ std::variant<Joints, MotionError> PathCheck::jointsOf(const Position &position) 
 
 MotionProblem PathCheck::check(const QString &from, const QString &to) const
 {
-    const Found start = find(from);
-    const Found end = find(to);
+    const auto records = points();
+    if (!records)
+        return noPosition(from, QStringLiteral("the controller has no points of the project"));
+    const Found start = find(*records, from);
+    const Found end = find(*records, to);
     for (const Found *found : {&start, &end}) {
         if (const auto *error = std::get_if<MotionError>(found))
             return *error;

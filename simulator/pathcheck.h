@@ -4,6 +4,7 @@
 #include "frames.h"
 #include "motion.h"
 
+#include <QJsonArray>
 #include <functional>
 
 namespace simulator
@@ -39,7 +40,9 @@ private:
     };
     using Found = std::variant<Position, MotionError>;
 
-    Found find(const QString &name) const;
+    /** The records of the open project's points; nothing where the file can't be read. */
+    std::optional<QJsonArray> points() const;
+    Found find(const QJsonArray &points, const QString &name) const;
     Found read(const QString &name, const QJsonValue &element) const;
     std::variant<Joints, MotionError> jointsOf(const Position &position) const;
 

@@ -219,6 +219,15 @@ private slots:
         QCOMPARE(bench.state(), QStringLiteral("idle"));
     }
 
+    void refusedMoveLeavesNoneWaiting()
+    {
+        Bench bench;
+        QVERIFY(bench.run("move.move_to.l", request(kAside, 0.5)).isDone());
+        QVERIFY(!bench.run("move.move_to.l", QJsonObject()).isDone());
+        bench.run("move.opr.enough");
+        QCOMPARE(bench.state(), QStringLiteral("idle"));
+    }
+
     void refusals_data()
     {
         QTest::addColumn<QString>("before");

@@ -32,9 +32,14 @@ ostrel::ModuleObject *programNode()
     return m(QStringLiteral("brisa.r.state"));
 }
 
+ostrel::ModuleObject *filterNode(const char *what)
+{
+    return m(QStringLiteral("brisa.r.zeplet.filter.") + QLatin1String(what));
+}
+
 bool filters(const char *what)
 {
-    return m(QStringLiteral("brisa.r.zeplet.filter.") + QLatin1String(what))->getBool(false);
+    return filterNode(what)->getBool(false);
 }
 
 void warn(const QString &message)
@@ -60,6 +65,8 @@ RunControl::RunControl(brisa::ControllerManager *controller, QObject *parent)
                 if (origin != this)
                     answer(state.toString());
             });
+    for (const char *what : {"run", "stop"})
+        connect(filterNode(what), &ModuleObject::changed, this, &RunControl::followFilters);
     connect(programNode(), &ModuleObject::changed, this, &RunControl::followProgram);
     connect(controller, &brisa::ControllerManager::rcDisconnected, this, &RunControl::loseLink);
 }
@@ -171,6 +178,19 @@ void RunControl::stopForPlugin()
         warn(tr("A plugin did not let the program start."));
     else
         send(stopCommand);
+}
+
+/** Without a filter nobody answers any more. */
+void RunControl::followFilters()
+{
+    if (m_waiting == Waiting::Run && !filters("run")) {
+        warn(tr("The plugin that was asked no longer answers: the program was not started. Press "
+                "Start again."));
+        giveUp();
+    }
+    if (m_waiting == Waiting::Stop && !filters("stop"))
+        stop();
+    m_startGivenUp = m_startGivenUp && filters("run");
 }
 
 void RunControl::followProgram()

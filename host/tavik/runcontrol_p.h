@@ -40,6 +40,7 @@ private:
     void answer(const QString &state);
     void startForPlugin();
     void stopForPlugin();
+    void followFilters();
     void followProgram();
     void loseLink();
 

@@ -20,8 +20,9 @@ private Q_SLOTS:
 
     void cleanup() { m_peer.reset(); }
 
-    /** Words: "filter" turns both filters on; "running", "idle" are the controller's news; "run",
-     *  "stopped" are plugins' answers; "down" is the loss of the link; others an operator's. */
+    /** Words: "filter" turns both filters on, "unfilter" off; "running", "idle" are the
+     * controller's news; "run", "stopped" are plugins' answers; "down" is the loss of the link;
+     * others an operator's. */
     void transitions()
     {
         const struct {
@@ -46,6 +47,9 @@ private Q_SLOTS:
             {"filter start stop run", "", "", "had been given up"},
             {"filter start stopped", "", "", "did not let the program start"},
             {"filter start running", "", "", ""},
+            {"filter start unfilter", "", "", "no longer answers"},
+            {"filter start cancel unfilter run", "start", "", ""},
+            {"filter running stop unfilter", "stop", "", ""},
             {"filter start down", "", "", "the start was given up"},
             {"filter start down up run", "", "", "had been given up"},
             {"filter running stop", "", "stop", ""},
@@ -150,9 +154,9 @@ private Q_SLOTS:
 private:
     void play(const QString &word)
     {
-        if (word == "filter") {
-            m("brisa.r.zeplet.filter.run")->set(nullptr, true);
-            m("brisa.r.zeplet.filter.stop")->set(nullptr, true);
+        if (word.endsWith("filter")) {
+            m("brisa.r.zeplet.filter.run")->set(nullptr, word == "filter");
+            m("brisa.r.zeplet.filter.stop")->set(nullptr, word == "filter");
         } else if (word == "running" || word == "idle") {
             m("brisa.r.state")->set(nullptr, word == "running" ? "program" : "idle");
         } else if (word == "run" || word == "stopped") {

@@ -16,6 +16,8 @@ SyncDialog::SyncDialog(QWidget *parent)
     setRange(0, 0); // busy: rsync's progress is not read
     setMinimumDuration(1);
     setWindowModality(Qt::WindowModal);
+    setMinimumSize(400, 104);
+    setStyleSheet(QStringLiteral("zeplet--SyncDialog { border: 2px solid palette(highlight); }"));
     // Without both, Qt shows a progress dialog by itself some time after its construction.
     reset();
     close();

@@ -63,9 +63,8 @@ private Q_SLOTS:
 
     void moveToStart_data()
     {
-        const auto row
-            = testcolumns<QString, QString, bool, bool, int, QStringList>(
-                "version", "name", "useConf", "joint", "result", "sent");
+        const auto row = testcolumns<QString, QString, bool, bool, int, QStringList>(
+            "version", "name", "useConf", "joint", "result", "sent");
         const auto sent = [](const QString &line) {
             return QStringList {reset, watchOn, line, enough};
         };
@@ -104,7 +103,7 @@ private Q_SLOTS:
         QTEST(result, "result");
         QTRY_COMPARE(m_sent->seen(), sent);
         if (result != 0) {
-            const QString problem = result == -2 ? "conf missing for MoveJ/jc"
+            const QString problem = result == -2     ? "conf missing for MoveJ/jc"
                 : name == "second" || name == "bare" ? "value.[0][0][0] missing"
                                                      : "point not found";
             QCOMPARE(log.ofLevel("E"), QStringList("moveToStart: " + problem + ", name=" + name));
@@ -122,8 +121,7 @@ private Q_SLOTS:
         QCOMPARE(result, -2);
         zepletInterface()->moveToStart(result, "P1", 1, true);
         QCOMPARE(result, 0);
-        const QString line
-            = request("move.move_to.jc", conf + rot + ',' + trans, "0.001");
+        const QString line = request("move.move_to.jc", conf + rot + ',' + trans, "0.001");
         QTRY_COMPARE(m_sent->seen(), QStringList({reset, watchOn, reset, line, enough}));
     }
 

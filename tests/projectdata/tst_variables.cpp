@@ -17,24 +17,17 @@ const char *const variables = R"({"built": true,
     "default": {"id": 0, "name": "", "type": "", "value": {}, "pers": false, "description": "new"},
     "_list": [
     {"id": 0, "name": "count", "type": "int", "value": {"[0][0][0]": 1}, "pers": true,
-     "description": "parts"},
-    {"id": 1, "name": "a.b", "type": "QString", "value": {"[0][0][0]": "x"}, "pers": false},
+     "description": "old"},
+    {"id": 1, "name": "a.b", "type": "QString", "value": {"[0][0][0]": "x"}, "pers": true},
     {"id": 2, "name": "camera", "type": "socketconn", "value": {"[0][0][0]": 3}},
     {"id": 3, "name": "scale", "type": "serials", "value": {"[0][0][0]": 4}},
-    {"id": 4, "name": "bare", "type": "double"}]})";
+    {"id": 4, "name": "bare", "type": "double", "pers": true, "description": "old"}]})";
 
 QJsonArray list()
 {
     return m("tavik.project.var._list")->exportToJson().toArray();
 }
 
-QString request(const QString &operation, const QString &entries)
-{
-    return R"(project.variable {"operator":")" + operation + R"(","variables":[)" + entries + "]}";
-}
-
-const QString count1 = R"({"name":"count","pers":true,"type":"int","value":{"[0][0][0]":1}})";
-const QString ab = R"({"name":"a.b","pers":false,"type":"QString","value":{"[0][0][0]":"x"}})";
 const double nan = std::numeric_limits<double>::quiet_NaN();
 const double infinite = std::numeric_limits<double>::infinity();
 
@@ -42,6 +35,14 @@ const double infinite = std::numeric_limits<double>::infinity();
 QString q(QString text)
 {
     return text.replace('\'', '"');
+}
+
+/** What the controller is told of a persistent variable. */
+QString entry(const QString &name, const QString &type, const QString &value,
+              const QString &oldName = QString())
+{
+    return q("{'name':'" + name + "'," + oldName + "'pers':true,'type':'" + type
+             + "','value':{'[0][0][0]':" + value + "}}");
 }
 
 } // namespace
@@ -63,8 +64,7 @@ private Q_SLOTS:
     void queries()
     {
         InterfaceManager &api = *zepletInterface();
-        QCOMPARE(api.getVarDataList(""),
-                 QStringList({"count", "a.b", "camera", "scale", "bare"}));
+        QCOMPARE(api.getVarDataList(""), QStringList({"count", "a.b", "camera", "scale", "bare"}));
         QCOMPARE(api.getVarDataList("int"), QStringList("count"));
         QCOMPARE(api.getVarDataList("Int"), QStringList());
         QCOMPARE(api.getVarObjDataByName("a.b"), list().at(1).toObject());
@@ -75,45 +75,57 @@ private Q_SLOTS:
 
     void changes_data()
     {
-        const auto row = testcolumns<Operation, QString, QString>("operation", "sent", "changed");
-        row("add a number", [](auto &api) { return api.addVarData("Count", 5, true); },
-            request("add",
-                    q("{'name':'Count','pers':true,'type':'int','value':{'[0][0][0]':5}}")),
-            q("5 {'description':'new','id':5,'name':'Count','pers':true,'type':'int','value':{'[0][0][0]':5}}"));
-        row("add a text, untrimmed", [](auto &api) { return api.addVarData(" #0", "%1", false); },
-            request("add",
-                    q("{'name':' #0','pers':false,'type':'QString','value':{'[0][0][0]':'%1'}}")),
-            q("5 {'description':'new','id':5,'name':' #0','pers':false,'type':'QString','value':{'[0][0][0]':'%1'}}"));
-        row("update", [](auto &api) { return api.updateVarData("count", "now a text"); },
-            request("edit", q("{'name':'count','old_name':'count','pers':true,'type':'int','value':{'[0][0][0]':'now a text'}}")),
-            q("0 {'description':'parts','id':0,'name':'count','pers':true,'type':'int','value':{'[0][0][0]':'now a text'}}"));
-        row("update without a value", [](auto &api) { return api.updateVarData("bare", 1.5); },
-            request("edit", q("{'name':'bare','old_name':'bare','type':'double','value':{'[0][0][0]':1.5}}")),
-            q("4 {'id':4,'name':'bare','type':'double','value':{'[0][0][0]':1.5}}"));
-        row("delete two of four",
-            [](auto &api) {
-                return api.delVarData(QStringList {"a.b", "camera", "none", "count"});
-            },
-            request("remove", count1 + ',' + ab), q("0 {'id':2,'name':'camera','type':'socketconn','value':{'[0][0][0]':3}}"));
-        row("delete one", [](auto &api) { return api.delVarData("count"); },
-            request("remove", count1), q("0 {'id':1,'name':'a.b','pers':false,'type':'QString','value':{'[0][0][0]':'x'}}"));
+        const auto row = testcolumns<Operation, QString, QString, QString>("operation", "request",
+                                                                           "entries", "names");
+        const QString before = "count,a.b,camera,scale,bare";
+        const auto add = [](auto name, auto value) {
+            return [=](auto &api) { return api.addVarData(name, value, true); };
+        };
+        const auto update = [](auto name, auto value) {
+            return [=](auto &api) { return api.updateVarData(name, value); };
+        };
+        const auto remove = [](const QStringList &names) {
+            return [=](auto &api) { return api.delVarData(names); };
+        };
+        row("add a number", add("Count", 5), "add", entry("Count", "int", "5"), before + ",Count");
+        row("add, untrimmed", add(" #0", "%1"), "add", entry(" #0", "QString", "'%1'"),
+            before + ", #0");
+        row("update", update("count", "text"), "edit",
+            entry("count", "int", "'text'", "'old_name':'count',"), before);
+        row("update without a value", update("bare", 1.5), "edit",
+            entry("bare", "double", "1.5", "'old_name':'bare',"), before);
+        row("delete two of four", remove({"a.b", "camera", "none", "count"}), "remove",
+            entry("count", "int", "1") + ',' + entry("a.b", "QString", "'x'"), "camera,scale,bare");
+        row("delete one", remove({"count"}), "remove", entry("count", "int", "1"),
+            "a.b,camera,scale,bare");
     }
 
     void changes()
     {
         QFETCH(Operation, operation);
-        QFETCH(QString, sent);
-        QFETCH(QString, changed);
+        QFETCH(QString, request);
+        QFETCH(QString, entries);
+        QFETCH(QString, names);
+        InterfaceManager &api = *zepletInterface();
         LogCapture log;
-        QVERIFY(operation(*zepletInterface()));
-        QCOMPARE(m_sent->take(), QStringList(sent));
-        QCOMPARE(log.ofLevel("S"), QStringList("hotUpdateVar:" + sent.section(' ', 1)));
-        QCOMPARE(QJsonValue(list().at(changed.section(' ', 0, 0).toInt())),
-                 json(changed.section(' ', 1).toUtf8()));
-        const bool isAdded = sent.contains(q("'add'"));
-        QCOMPARE(m("tavik.project.var.built")->getBool(false), !isAdded);
-        const QJsonObject file = json(file_()).toObject();
-        QCOMPARE(file, QJsonObject({{"version", "0.2"}, {"variables", list()}}));
+        QVERIFY(operation(api));
+        const QString sent = q("{'operator':'") + request + q("','variables':[") + entries + "]}";
+        QCOMPARE(m_sent->take(), QStringList("project.variable " + sent));
+        QCOMPARE(log.ofLevel("S"), QStringList("hotUpdateVar:" + sent));
+        QCOMPARE(api.getVarDataList("").join(','), names);
+        if (request != "remove") {
+            QJsonObject expected = json(entries.toUtf8()).toObject();
+            expected.remove("old_name");
+            QJsonObject record = api.getVarObjDataByName(expected["name"].toString());
+            const int place = names.split(',').indexOf(record["name"].toString());
+            QCOMPARE(record.take("id").toInt(), place);
+            QCOMPARE(record.take("description").toString(),
+                     QString(request == "add" ? "new" : "old"));
+            QCOMPARE(record, expected);
+        }
+        QCOMPARE(m("tavik.project.var.built")->getBool(false), request != "add");
+        QCOMPARE(json(file_()).toObject(),
+                 QJsonObject({{"version", "0.2"}, {"variables", list()}}));
         QCOMPARE(OpenProject::pushed(), file_());
         QVERIFY(m_project->takePushes().value(0).endsWith("::hmi/demo/var.json"));
     }
@@ -121,23 +133,31 @@ private Q_SLOTS:
     void refusals_data()
     {
         const auto row = testcolumns<Operation, QString>("operation", "problem");
-        row("add ''", [](auto &api) { return api.addVarData("", 1, true); },
-            "addVarData: name is empty");
-        row("add again", [](auto &api) { return api.addVarData("count", 1, true); },
-            "addVarData: variable already exists:count");
-        row("add nan", [](auto &api) { return api.addVarData("n", nan, true); },
-            "addVarData: value is not finite:n");
-        row("update ''", [](auto &api) { return api.updateVarData("", 1); },
-            "updateVarData: name is empty");
-        row("update Count", [](auto &api) { return api.updateVarData("Count", 1); },
-            "updateVarData: variable not found:Count");
-        row("update a connection", [](auto &api) { return api.updateVarData("scale", 1); },
-            "updateVarData: unsupported type:serials");
-        row("update within a list",
-            [](auto &api) { return api.updateVarData("count", QVariantList {1, infinite}); },
-            "updateVarData: value is not finite:count");
-        row("delete a connection", [](auto &api) { return api.delVarData("camera"); }, "");
-        row("delete nothing", [](auto &api) { return api.delVarData(QStringList()); }, "");
+        const auto add = [&](const QVariant &value, const QString &name, const QString &problem) {
+            row(
+                qPrintable(problem), [=](auto &api) { return api.addVarData(name, value, true); },
+                "addVarData: " + problem);
+        };
+        const auto update = [&](const QVariant &value, const QString &name, const QString &why) {
+            row(
+                qPrintable("update: " + why),
+                [=](auto &api) { return api.updateVarData(name, value); }, "updateVarData: " + why);
+        };
+        QVariant deep;
+        for (int level = 0; level < 100; ++level)
+            deep = QVariantList {deep};
+        add(1, "", "name is empty");
+        add(1, "count", "variable already exists:count");
+        add(nan, "n", "value is not finite:n");
+        add(deep, "n", "value has too many levels:n");
+        update(1, "", "name is empty");
+        update(1, "Count", "variable not found:Count");
+        update(1, "scale", "unsupported type:serials");
+        update(QVariantList {1, infinite}, "count", "value is not finite:count");
+        row(
+            "delete a connection", [](auto &api) { return api.delVarData("camera"); }, "");
+        row(
+            "delete nothing", [](auto &api) { return api.delVarData(QStringList()); }, "");
     }
 
     void refusals()
@@ -158,9 +178,10 @@ private Q_SLOTS:
         QVERIFY(!zepletInterface()->addVarData("n", 1, true));
         QVERIFY(!zepletInterface()->updateVarData("count", 2));
         QVERIFY(!zepletInterface()->delVarData("count"));
-        QCOMPARE(log.ofLevel("E"), QStringList({"addVarData: rc is not connected",
-                                                "updateVarData: rc is not connected",
-                                                "delVarData: rc is not connected"}));
+        QCOMPARE(
+            log.ofLevel("E"),
+            QStringList({"addVarData: rc is not connected", "updateVarData: rc is not connected",
+                         "delVarData: rc is not connected"}));
         QVERIFY(isUntouched());
     }
 
@@ -185,9 +206,10 @@ private Q_SLOTS:
         QVERIFY(!zepletInterface()->updateVarData("bare", 2));
         QVERIFY(!zepletInterface()->delVarData("count"));
         QVERIFY(isUntouched());
-        QCOMPARE(log.ofLevel("E"), QStringList({"addVarData: hot update failed:n",
-                                                "updateVarData: hot update failed:count",
-                                                "updateVarData: hot update failed:bare"}));
+        QCOMPARE(log.ofLevel("E"),
+                 QStringList({"addVarData: hot update failed:n",
+                              "updateVarData: hot update failed:count",
+                              "updateVarData: hot update failed:bare"}));
         QCOMPARE(m_sent->take().size(), 4);
     }
 

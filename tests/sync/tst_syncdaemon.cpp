@@ -1,12 +1,12 @@
 #include "offscreen.h"
-#include "rsyncdaemon.h"
-#include "testcolumns.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <brisa/managerhelper.h>
+#include <simulator/fileserver.h>
 #include <zeplet/sync/synclimits_p.h>
 #include <zeplet/sync/synctool.h>
 
@@ -20,6 +20,12 @@ void write(const QString &path, const QByteArray &bytes)
     QFile file(path);
     QVERIFY(QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList entries(const QString &path)
@@ -49,27 +55,32 @@ private Q_SLOTS:
         syncLimits().controllerMark = "mark";
         QVERIFY(QDir().mkpath("tools"));
         QVERIFY(QFile::link(QStandardPaths::findExecutable("rsync"), "tools/rsync.exe"));
-        m_daemon = std::make_unique<RsyncDaemon>();
-        QVERIFY(QDir(m_daemon->path()).mkpath("one"));
+        QString error;
+        m_server = std::make_unique<simulator::FileServer>(
+            simulator::FileOptions {m_local->filePath("controller"), 0});
+        QVERIFY2(m_server->open(&error), qPrintable(error));
+        qputenv("RSYNC_CONNECT_PROG",
+                "socat - TCP:127.0.0.1:" + QByteArray::number(m_server->port()));
+        QVERIFY(QDir().mkpath(there("one")));
     }
 
     void aPushedDirectoryIsTheSameThere()
     {
         write("dir/point.json", "{}");
         write("dir/sub/a b", "x");
-        write(m_daemon->path("one/dir/old"), "goes");
+        write(there("one/dir/old"), "goes");
         QVERIFY(SyncTool::instance()->pushFile("dir", "hmi/one", false));
-        QCOMPARE(m_daemon->read("one/dir/point.json"), QByteArray("{}"));
-        QCOMPARE(m_daemon->read("one/dir/sub/a b"), QByteArray("x"));
-        QCOMPARE(entries(m_daemon->path("one/dir")), QStringList({"point.json", "sub"}));
+        QCOMPARE(read(there("one/dir/point.json")), QByteArray("{}"));
+        QCOMPARE(read(there("one/dir/sub/a b")), QByteArray("x"));
+        QCOMPARE(entries(there("one/dir")), QStringList({"point.json", "sub"}));
     }
 
     void aPulledDirectoryIsTheSameHere()
     {
-        write(m_daemon->path("one/point.json"), "{}");
-        write(m_daemon->path("one/sub/secret"), "x");
-        write(m_daemon->path("one/left_pers_"), "x");
-        QFile(m_daemon->path("one/point.json")).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        write(there("one/point.json"), "{}");
+        write(there("one/sub/secret"), "x");
+        write(there("one/left_pers_"), "x");
+        QFile(there("one/point.json")).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         write("dir/goes", "x");
         write("dir/stays_pers_", "x");
         QVERIFY(SyncTool::instance()->pullFile("hmi/one", "dir", true, false));
@@ -83,69 +94,50 @@ private Q_SLOTS:
                  all | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
     }
 
-    void aFileArrivesByteForByte_data()
-    {
-        const auto row = testcolumns<QString>("name");
-        for (const char *name :
-             {"point.json", "with blank", "it's \"quoted\"", "a;touch pwned", "$(touch pwned)`id`",
-              "100%1%s", "-delete", "--rsh=x", "host:x", "x::", "点云 工作站", "&|<>#!~"})
-            row(name, name);
-        row("255 bytes", QString(255, 'x'));
-    }
-
     void aFileArrivesByteForByte()
     {
-        QFETCH(QString, name);
-        QByteArray bytes("\0\r\n\xff%1", 6);
-        for (int i = 0; i < 2000; ++i)
-            bytes += QByteArray::number(i * 7919);
-        write(m_local->filePath(name), bytes);
-        // Once by the absolute path, once by the bare name, with the same size in the same second.
-        QVERIFY(
-            SyncTool::instance()->pushOneFile(m_local->filePath(name), "hmi/one/" + name, false));
-        QCOMPARE(m_daemon->read("one/" + name), bytes);
-        bytes[100] = bytes[100] == '0' ? '1' : '0';
-        bytes += '.';
-        write(m_local->filePath(name), bytes);
-        QVERIFY(SyncTool::instance()->pushOneFile(name, "hmi/one/" + name, false));
-        QCOMPARE(m_daemon->read("one/" + name), bytes);
-        QCOMPARE(entries(m_daemon->path("one")), QStringList(name));
+        const QByteArray bytes = QByteArray("\0\r\n\xff%1", 6).repeated(5000);
+        const QStringList names {
+            "with blank", "it's \"quoted\"", "a;touch pwned", "-delete", "$(touch pwned)`id`",
+            "100%1%s",    "--rsh=x",         "host:x",        "x::",     "点云 工作站",
+            "&|<>#!~",    QString(255, 'x')};
+        for (const QString &name : names) {
+            write(m_local->filePath(name), bytes);
+            const QString remote = "hmi/one/" + name;
+            QVERIFY(SyncTool::instance()->pushOneFile(m_local->filePath(name), remote, false));
+            QCOMPARE(read(there("one/" + name)), bytes);
+            write(m_local->filePath(name), bytes + '.');
+            QVERIFY(SyncTool::instance()->pushOneFile(name, remote, false));
+            QCOMPARE(read(there("one/" + name)), bytes + '.');
+        }
+        QCOMPARE(entries(there("one")).size(), names.size());
         QVERIFY(!QFile::exists("pwned"));
-    }
-
-    void whatTheDaemonRefusesFails_data()
-    {
-        const auto row = testcolumns<QByteArray, QString>("password", "remote");
-        row("wrong password", "123456", "hmi/one/point.json");
-        row("missing module", "729413", "other/point.json");
-        row("missing directory", "729413", "hmi/none/point.json");
-        row("nobody listens", "", "hmi/one/point.json");
     }
 
     void whatTheDaemonRefusesFails()
     {
-        QFETCH(QByteArray, password);
-        QFETCH(QString, remote);
-        m_daemon.reset();
-        m_daemon = std::make_unique<RsyncDaemon>(password);
-        QVERIFY(QDir(m_daemon->path()).mkpath("one"));
-        if (password.isEmpty())
-            m_daemon->stop();
+        SyncTool &tool = *SyncTool::instance();
         write("point.json", "{}");
-        QVERIFY(!SyncTool::instance()->pushOneFile("point.json", remote, false));
-        QCOMPARE(entries(m_daemon->path("one")), QStringList());
-        QCOMPARE(entries(m_daemon->path()), QStringList("one"));
+        QVERIFY(!tool.pushOneFile("point.json", "other/point.json", false));
+        QVERIFY(!tool.pushOneFile("point.json", "hmi/none/point.json", false));
+        write("controller/rsyncd.secrets", "brisa:123456\n");
+        QVERIFY(!tool.pushOneFile("point.json", "hmi/one/point.json", false));
+        m_server->close();
+        QVERIFY(!tool.pushOneFile("point.json", "hmi/one/point.json", false));
+        QCOMPARE(entries(there("one")), QStringList());
     }
 
     void cleanup()
     {
-        m_daemon.reset();
+        m_server.reset();
         QDir::setCurrent("/");
     }
 
 private:
+    QString there(const QString &name) const { return m_server->root() + '/' + name; }
+
     std::unique_ptr<QTemporaryDir> m_local;
-    std::unique_ptr<RsyncDaemon> m_daemon;
+    std::unique_ptr<simulator::FileServer> m_server;
 };
 
 QTEST_MAIN(TestSyncDaemon)

@@ -7,10 +7,10 @@
 namespace zeplet
 {
 
-SyncDialog::SyncDialog(QWidget *parent)
+SyncDialog::SyncDialog(const QString &label, QWidget *parent)
     : QProgressDialog(parent, Qt::FramelessWindowHint)
 {
-    setLabelText(tr("Synchronizing..."));
+    setLabelText(label);
     setFont(brisa::ManagerHelper::instance()->themeManager()->font(QStringLiteral("default")));
     setCancelButton(nullptr);
     setRange(0, 0); // busy: rsync's progress is not read

@@ -11,7 +11,7 @@ class SyncDialog : public QProgressDialog
     Q_OBJECT
 
 public:
-    explicit SyncDialog(QWidget *parent);
+    SyncDialog(const QString &label, QWidget *parent);
 
     /** Shows the dialog modally until finish(), but not longer than limitMs. */
     void execFor(int limitMs);

@@ -129,7 +129,7 @@ QProcess *SyncTool::Private::makeProcess()
 SyncDialog *SyncTool::Private::dialog()
 {
     if (!progress)
-        progress = new SyncDialog(instantiatedCenterWidget());
+        progress = new SyncDialog(SyncTool::tr("Synchronizing..."), instantiatedCenterWidget());
     return progress;
 }
 

@@ -54,6 +54,10 @@ public:
     QString workspace() const { return directory.filePath("workspace"); }
     panel::MainWindow &window() const { return session->window(); }
 
+    /** Shows a page, and waits until it is laid out and has taken up the theme: in its next frame.
+     */
+    bool show(const QString &page) const { return window().showPage(page) && !settled().isNull(); }
+
     /** The shown widget of that object name, or null. */
     template <typename Widget>
     Widget *find(const QString &name) const
@@ -104,25 +108,17 @@ public:
         return label ? label->text() : QString();
     }
 
-    /** Waits until the picture stands still and the page has taken up the theme, which it does in
-     *  its next frame; saves it where ZEPLET_PICTURES names a directory. What is wrong with it. */
+    /** Waits until the picture stands still and the page has taken up the theme; saves it where
+     * ZEPLET_PICTURES names a directory. What is wrong with it. */
     QString looks(const QString &theme) const
     {
         brisa::ThemeManager::instance()->setTheme(theme);
-        const QWidget *const page = currentPage();
-        QImage last;
-        int same = 0;
-        const bool settled = QTest::qWaitFor([&] {
-            const QImage now = window().grab().toImage();
-            same = now == last ? same + 1 : 0;
-            last = now;
-            return same >= 3
-                && page->styleSheet() == brisa::ThemeManager::instance()->styleSheet();
-        });
+        const QImage picture = settled();
         const QString pictures = qEnvironmentVariable("ZEPLET_PICTURES");
         if (!pictures.isEmpty())
-            last.save(pictures + '/' + QTest::currentDataTag() + ".png");
-        return settled ? widgetchecks::faults(&window()).join('\n') : QString("never still");
+            picture.save(pictures + '/' + QTest::currentDataTag() + ".png");
+        return picture.isNull() ? QString("never still")
+                                : widgetchecks::faults(&window()).join('\n');
     }
 
     QTemporaryDir directory;
@@ -130,9 +126,25 @@ public:
     std::unique_ptr<panel::PanelSession> session;
 
 private:
-    static QWidget *currentPage()
+    /** Null where it never stands still. */
+    QImage settled() const
     {
-        return instantiatedCenterWidget()->page(instantiatedCenterWidget()->currentKey());
+        QImage last;
+        int same = 0;
+        const bool still = QTest::qWaitFor([&] {
+            const QImage now = window().grab().toImage();
+            same = now == last ? same + 1 : 0;
+            last = now;
+            return same >= 3 && isStyled();
+        });
+        return still ? last : QImage();
+    }
+
+    static bool isStyled()
+    {
+        const kest::CenterWidget *const centre = instantiatedCenterWidget();
+        return centre->page(centre->currentKey())->styleSheet()
+            == brisa::ThemeManager::instance()->styleSheet();
     }
 
     static int rowOf(const QTableView *view, const QString &text)

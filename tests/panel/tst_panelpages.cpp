@@ -3,10 +3,41 @@
 
 #include <QDir>
 #include <QLineEdit>
+#include <QTabBar>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
 
 using zeplet::zepletInterface;
+
+namespace
+{
+
+simulator::Scenario cell()
+{
+    QString error;
+    const auto scenario = simulator::Scenario::fromText(R"json({
+        "project": {"tasks": ["task0"], "function": "main"},
+        "registers": [{"name": "R_PARTS", "value": ["0", "500"]}],
+        "io": {
+            "signals": [
+                {"name": "di.door[1]", "type": "DI", "label": "Schutztür der Zelle", "value": true},
+                {"name": "di_start", "type": "DI"},
+                {"name": "do_gripper_with_a_name_that_is_longer_than_any_column", "type": "DO",
+                 "label": "Greifer schließen, wenn das Teil in der Aufnahme liegt und geprüft ist"},
+                {"name": "do_motors", "type": "DO"},
+                {"name": "gi_part", "type": "GI", "value": 3},
+                {"name": "ao_speed", "type": "AO", "label": "Conveyor speed", "value": 12.5}],
+            "system_inputs": [{"signal": "di_start", "function": "program_start"}],
+            "system_outputs": [{"signal": "do_motors", "function": "motor_on"}]}})json",
+                                                        &error);
+    if (!scenario)
+        qFatal("%s", qPrintable(error));
+    return *scenario;
+}
+
+const char *const longName = "do_gripper_with_a_name_that_is_longer_than_any_column";
+
+} // namespace
 
 /** The panel's pages as a person uses them: what they show, refuse and ask. */
 class TestPanelPages : public QObject
@@ -16,7 +47,7 @@ class TestPanelPages : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(m_panel.start()); }
 
-    void init() { QVERIFY(m_panel.window().showPage("zeplet.page-projects")); }
+    void init() { QVERIFY(m_panel.show("zeplet.page-projects")); }
 
     void newProject()
     {
@@ -31,10 +62,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("sentence");
-        QTest::newRow("empty") << " " << "needs a name";
-        QTest::newRow("path") << "a/b" << "no path";
-        QTest::newRow("up") << ".." << "no path";
-        QTest::newRow("taken") << "here" << "already";
+        QTest::newRow("empty") << " "
+                               << "needs a name";
+        QTest::newRow("path") << "a/b"
+                              << "no path";
+        QTest::newRow("up") << ".."
+                            << "no path";
+        QTest::newRow("taken") << "here"
+                               << "already";
     }
 
     void invalidNames()
@@ -57,11 +92,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("action");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("sentence");
-        QTest::newRow("create reserved") << "create" << "_temp" << "reserved";
-        QTest::newRow("create behind our back") << "raced" << "raced" << "already";
+        QTest::newRow("create reserved") << "create"
+                                         << "_temp"
+                                         << "reserved";
+        QTest::newRow("create behind our back") << "raced"
+                                                << "raced"
+                                                << "already";
         QTest::newRow("create without disk") << "create" << QString(300, 'x') << "disk";
-        QTest::newRow("open what is gone") << "open" << "gone" << "no longer";
-        QTest::newRow("remove what is gone") << "remove" << "gone" << "no longer";
+        QTest::newRow("open what is gone") << "open"
+                                           << "gone"
+                                           << "no longer";
+        QTest::newRow("remove what is gone") << "remove"
+                                             << "gone"
+                                             << "no longer";
     }
 
     void refusals()
@@ -105,6 +148,143 @@ private Q_SLOTS:
         QVERIFY(!QDir(robotDirectory()).exists("kept"));
     }
 
+    void otherProjectsWaitForTheProgram()
+    {
+        QCOMPARE(zepletInterface()->createProject("next", "", false), 0);
+        QTRY_VERIFY(m_panel.tap("projects", "next"));
+        startProgram();
+        QVERIFY(m_panel.click("openProject"));
+        QVERIFY(m_panel.notice().contains("running"));
+        QVERIFY(!zepletInterface()->getCurProject().endsWith("next"));
+        m_panel.simulator.control("program stop");
+        QTRY_COMPARE(zepletInterface()->getRobotPhyStatus(), QString("idle"));
+        QVERIFY(m_panel.click("openProject"));
+        QTRY_COMPARE(zepletInterface()->getCurProject(), QString("SIM-0001/next"));
+    }
+
+    void signalsFollowTheController()
+    {
+        showSignals(0);
+        QTRY_COMPARE(m_panel.cell("signals", "di.door[1]", 1), QString("On"));
+        m_panel.simulator.control("signal set di.door[1] false");
+        QTRY_COMPARE(m_panel.cell("signals", "di.door[1]", 1), QString("Off"));
+        showSignals(5);
+        m_panel.simulator.control("signal set ao_speed 7.25");
+        QTRY_COMPARE(m_panel.cell("signals", "ao_speed", 1), QString("7.25"));
+        showSignals(6);
+        QTRY_COMPARE(m_panel.cell("registers", "R_PARTS", 1), QString("0,  500"));
+        m_panel.simulator.control("register set R_PARTS 0 17");
+        QTRY_COMPARE(m_panel.cell("registers", "R_PARTS", 1), QString("17,  500"));
+    }
+
+    void outputsAreSet()
+    {
+        showSignals(1);
+        QTRY_COMPARE(m_panel.cell("signals", longName, 3), QString("Switch on"));
+        QVERIFY(m_panel.tap("signals", longName, 3));
+        QTRY_COMPARE(m_panel.cell("signals", longName, 1), QString("On"));
+        QCOMPARE(m_panel.cell("signals", "do_motors", 3), QString(""));
+        showSignals(5);
+        QVERIFY(m_panel.tap("signals", "ao_speed", 3));
+        auto *const value = m_panel.find<QLineEdit>("signalValue");
+        value->setText("3,5");
+        QVERIFY(!m_panel.click("accept"));
+        value->setText("3.5");
+        QVERIFY(m_panel.click("accept"));
+        QTRY_COMPARE(m_panel.cell("signals", "ao_speed", 1), QString("3.5"));
+    }
+
+    void inputsAreSetWhileTheyAreSimulated()
+    {
+        showSignals(0);
+        QTRY_COMPARE(m_panel.cell("signals", "di.door[1]", 3), QString(""));
+        QVERIFY(m_panel.click("simulateInputs"));
+        QCOMPARE(m_panel.simulator.count("io.io_signal.set_input_simu_mode"), 0);
+        QVERIFY(m_panel.click("agree"));
+        QTRY_VERIFY(!m_panel.cell("signals", "di.door[1]", 3).isEmpty());
+        QCOMPARE(m_panel.cell("signals", "di_start", 3), QString(""));
+        const QString before = m_panel.cell("signals", "di.door[1]", 1);
+        QVERIFY(m_panel.tap("signals", "di.door[1]", 3));
+        QTRY_VERIFY(m_panel.cell("signals", "di.door[1]", 1) != before);
+        QVERIFY(m_panel.click("simulateInputs"));
+        QTRY_COMPARE(m_panel.cell("signals", "di.door[1]", 3), QString(""));
+    }
+
+    void startWaitsForAPlugin()
+    {
+        QVERIFY(m_panel.show("zeplet.page-run"));
+        m_panel.simulator.control("set power on");
+        zepletInterface()->startRunningFilter(true);
+        QTRY_VERIFY(m_panel.click("runStart"));
+        QTRY_VERIFY(m_panel.find<QWidget>("cancelWaiting"));
+        QTRY_VERIFY(!m_panel.find<QAbstractButton>("runStart")->isEnabled());
+        QVERIFY(m_panel.click("cancelWaiting"));
+        QTRY_VERIFY(!m_panel.find<QWidget>("cancelWaiting"));
+        QCOMPARE(m_panel.simulator.count("rl_program.start"), 0);
+        QTRY_VERIFY(m_panel.click("runStart"));
+        QTRY_VERIFY(m_panel.find<QWidget>("cancelWaiting"));
+        QVERIFY(zepletInterface()->startRunning());
+        QTRY_COMPARE(zepletInterface()->getRobotPhyStatus(), QString("program"));
+        QTRY_VERIFY(!m_panel.find<QWidget>("cancelWaiting"));
+        zepletInterface()->startRunningFilter(false);
+        QVERIFY(m_panel.click("runStop"));
+        QTRY_COMPARE(zepletInterface()->getRobotPhyStatus(), QString("idle"));
+    }
+
+    void startNeedsTheMotors()
+    {
+        QVERIFY(m_panel.show("zeplet.page-run"));
+        m_panel.simulator.control("set power off");
+        QTRY_VERIFY(m_panel.find<QLabel>("startReason")->text().contains("motors are off"));
+        QVERIFY(!m_panel.click("runStart"));
+        QVERIFY(m_panel.click("switchPower"));
+        QTRY_VERIFY(zepletInterface()->getRobotEleStatus());
+        QTRY_VERIFY(m_panel.find<QAbstractButton>("runStart")->isEnabled());
+    }
+
+    void looks_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QString>("theme");
+        const QList<QPair<QString, QString>> states {
+            {"projects", "list"},     {"projects", "form"},     {"projects", "refusal"},
+            {"projects", "confirm"},  {"projects", "offline"},  {"signals", "inputs"},
+            {"signals", "simulated"}, {"signals", "outputs"},   {"signals", "analogue"},
+            {"signals", "empty"},     {"signals", "registers"}, {"signals", "offline"},
+            {"run", "idle"},          {"run", "running"},       {"run", "waiting"},
+            {"run", "offline"}};
+        for (const auto &[page, state] : states) {
+            for (const char *theme : {"light", "dark"})
+                QTest::addRow("%s-%s-%s", qPrintable(page), qPrintable(state), theme)
+                    << page << state << theme;
+        }
+    }
+
+    void looks()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, state);
+        QFETCH(QString, theme);
+        QVERIFY(m_panel.show("zeplet.page-" + page));
+        enter(state);
+        QCOMPARE(m_panel.looks(theme), QString());
+    }
+
+    void cleanup()
+    {
+        m_panel.click("cancel");
+        m_panel.click("cancelWaiting");
+        m_panel.simulator.control("simulation off");
+        m_panel.simulator.control("program stop");
+        if (!PageFixture::isConnected()) {
+            m_panel.simulator.control("fault clear");
+            QTRY_VERIFY(PageFixture::isConnected());
+        }
+        QTRY_VERIFY(zepletInterface()->getRobotPhyStatus() != "program");
+        zepletInterface()->startRunningFilter(false);
+    }
+
     void cleanupTestCase() { QVERIFY(m_panel.session->finish()); }
 
 private:
@@ -123,7 +303,58 @@ private:
         QVERIFY(m_panel.click("accept"));
     }
 
-    PageFixture m_panel;
+    void showSignals(int tab)
+    {
+        QVERIFY(m_panel.show("zeplet.page-signals"));
+        m_panel.find<QTabBar>("signalTypes")->setCurrentIndex(tab);
+    }
+
+    void startProgram()
+    {
+        m_panel.simulator.control("set power on");
+        m_panel.simulator.control("program start");
+        QTRY_COMPARE(zepletInterface()->getRobotPhyStatus(), QString("program"));
+    }
+
+    void enter(const QString &state)
+    {
+        static const QHash<QString, int> tabs {{"inputs", 0},   {"simulated", 0}, {"outputs", 1},
+                                               {"analogue", 5}, {"empty", 3},     {"registers", 6}};
+        if (tabs.contains(state))
+            showSignals(tabs.value(state));
+        if (state == "list" || state == "confirm")
+            m_panel.tap("projects", "Zelle 7");
+        if (state == "simulated")
+            m_panel.simulator.control("simulation on");
+        else if (state == "form")
+            openForm("焊接/单元");
+        else if (state == "refusal")
+            create("_temp", QString());
+        else if (state == "confirm")
+            m_panel.click("removeProject");
+        else if (state == "running")
+            startProgram();
+        else if (state == "waiting")
+            waitForPlugin();
+        else if (state == "offline")
+            goOffline();
+    }
+
+    void waitForPlugin()
+    {
+        m_panel.simulator.control("set power on");
+        zepletInterface()->startRunningFilter(true);
+        QTRY_VERIFY(m_panel.click("runStart"));
+        QTRY_VERIFY(m_panel.find<QWidget>("cancelWaiting"));
+    }
+
+    void goOffline()
+    {
+        m_panel.simulator.control("fault controller_down");
+        QTRY_VERIFY(!PageFixture::isConnected());
+    }
+
+    PageFixture m_panel {cell()};
 };
 
 int main(int argc, char *argv[])

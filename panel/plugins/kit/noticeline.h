@@ -4,7 +4,9 @@
 
 #include <QFrame>
 
+class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QToolButton;
 
 namespace kit
@@ -23,6 +25,8 @@ public:
     explicit NoticeLine(Kind kind, QWidget *parent = nullptr);
 
     void say(Tone tone, const QString &sentence);
+    /** Adds a button to one that is kept. */
+    QPushButton *addButton(const QString &text, const QString &objectName);
     QString text() const;
 
 protected:
@@ -31,6 +35,7 @@ protected:
 private:
     void applyTheme();
 
+    QHBoxLayout *m_row;
     QLabel *m_picture;
     QLabel *m_text;
     QToolButton *m_close;

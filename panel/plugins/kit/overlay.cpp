@@ -21,6 +21,15 @@ namespace
 
 constexpr int CardWidth = 600;
 
+/** What can be seen of the page, in its window. */
+QRect seenOf(const QWidget *page)
+{
+    QRect seen = page->rect();
+    for (const QWidget *widget = page; !widget->isWindow(); widget = widget->parentWidget())
+        seen = seen.translated(widget->pos()) & widget->parentWidget()->rect();
+    return seen;
+}
+
 } // namespace
 
 Overlay::Overlay(Page *page, const QString &title)
@@ -33,7 +42,6 @@ Overlay::Overlay(Page *page, const QString &title)
     hide();
     setFocusPolicy(Qt::StrongFocus);
     m_card->setProperty("role", QStringLiteral("card"));
-    m_card->setFixedWidth(CardWidth);
     auto *const heading = new QLabel(title, m_card);
     heading->setTextFormat(Qt::PlainText);
     heading->setWordWrap(true);
@@ -50,10 +58,15 @@ Overlay::Overlay(Page *page, const QString &title)
     column->addLayout(m_buttons);
     auto *const middle = new QVBoxLayout(this);
     middle->addStretch(1);
-    middle->addWidget(m_card, 0, Qt::AlignHCenter);
+    auto *const row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(m_card);
+    row->addStretch(1);
+    middle->addLayout(row);
     middle->addStretch(1);
     connect(page, &QObject::destroyed, this, &QObject::deleteLater);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &Overlay::applyTheme);
+    page->installEventFilter(this);
     parentWidget()->installEventFilter(this);
 }
 
@@ -98,7 +111,7 @@ void Overlay::open()
     m_open = true;
     zeplet::ChangeModelWindowStatus(m_page->pluginName(), true);
     applyTheme();
-    setGeometry(parentWidget()->rect());
+    place();
     show();
     raise();
     const QList<QWidget *> chain = focusChain();
@@ -146,9 +159,17 @@ bool Overlay::focusNextPrevChild(bool next)
 
 bool Overlay::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == parentWidget() && event->type() == QEvent::Resize)
-        setGeometry(parentWidget()->rect());
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+        place();
     return QWidget::eventFilter(watched, event);
+}
+
+void Overlay::place()
+{
+    if (!m_page)
+        return;
+    setGeometry(seenOf(m_page));
+    m_card->setFixedWidth(qMin(CardWidth, width() - 2 * metrics::Margin));
 }
 
 void Overlay::applyTheme()
@@ -156,14 +177,18 @@ void Overlay::applyTheme()
     setStyleSheet(ThemeManager::instance()->styleSheet());
 }
 
+// Fields come before the buttons, whichever were made first.
 QList<QWidget *> Overlay::focusChain() const
 {
-    QList<QWidget *> chain;
-    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+    QList<QWidget *> fields;
+    QList<QWidget *> buttons;
+    for (QWidget *widget = nextInFocusChain(); widget != this;
+         widget = widget->nextInFocusChain()) {
         if (isAncestorOf(widget) && widget->isEnabled() && widget->isVisibleTo(this)
             && (widget->focusPolicy() & Qt::TabFocus))
-            chain.append(widget);
-    return chain;
+            (m_buttons->indexOf(widget) < 0 ? fields : buttons).append(widget);
+    }
+    return fields + buttons;
 }
 
 } // namespace kit

@@ -15,10 +15,12 @@ namespace kit
 class Page;
 
 /**
- * A card in the middle of the panel, above all that is there, which takes every touch until it is
- * finished; no event loop of its own. The host counts it as a modal window of the page's plugin. It
- * belongs to the page's window, deletes itself when it is finished, and goes with its page. A page
- * has one at most: the next one that is opened finishes the one before.
+ * A card in the middle of a page, above all that is there, which takes every touch of the page
+ * until it is finished; no event loop of its own. What is around the page stays in reach: a robot
+ * can be stopped while the panel asks something. The host counts it as a modal window of the page's
+ * plugin. It belongs to the page's window, deletes itself when it is finished, and goes with its
+ * page, also when another page is shown. A page has one at most: the next one that is opened
+ * finishes the one before.
  */
 class Overlay : public QWidget
 {
@@ -50,6 +52,7 @@ protected:
 
 private:
     void applyTheme();
+    void place();
     QList<QWidget *> focusChain() const;
 
     QPointer<Page> m_page;

@@ -171,16 +171,21 @@ void Page::showEvent(QShowEvent *event)
         refresh();
 }
 
-// An overlay without its page would lock the panel. What is under way finishes its own.
+// An overlay ends with its page. The host may also hide the page just to put it somewhere else, so
+// this looks again when that is done. What is under way finishes its own.
 void Page::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     if (event->spontaneous())
         return;
-    if (m_overlay && !m_working)
-        m_overlay->finish();
     m_refresh.stop();
-    say(Tone::Plain, QString());
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible())
+            return;
+        if (m_overlay && !m_working)
+            m_overlay->finish();
+        say(Tone::Plain, QString());
+    });
 }
 
 void Page::applyTheme()

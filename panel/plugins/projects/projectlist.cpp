@@ -52,7 +52,8 @@ QVector<Project> readProjects()
                          record.value(QLatin1String("create_time")).toString(),
                          open == QString(robotDirectory() + '/' + name), autoload == name});
     }
-    QCollator order;
+    const QLocale locale; // without a language there is no order but that of the bytes
+    QCollator order(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     order.setNumericMode(true);
     std::sort(projects.begin(), projects.end(), [&](const Project &a, const Project &b) {
         return order.compare(a.name, b.name) < 0;

@@ -3,8 +3,8 @@
 #include "kit/marks.h"
 
 #include <QPainter>
-#include <QVariant>
 #include <QVBoxLayout>
+#include <QVariant>
 #include <brisa/elidedlabel.h>
 #include <brisa/thememanager.h>
 

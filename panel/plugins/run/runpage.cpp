@@ -3,7 +3,6 @@
 #include "filtercard.h"
 #include "statecard.h"
 
-#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -20,8 +19,7 @@ namespace
 {
 
 constexpr int LowestKey = 10 * metrics::Grid;
-constexpr int HighestKey = 20 * metrics::Grid;
-constexpr int KeyIcon = 4 * metrics::Grid;
+constexpr int KeyIcon = 5 * metrics::Grid;
 constexpr int StartPatience = 3000; // ms: a controller that starts has said so by then
 
 QString hostText(const char *key)
@@ -58,7 +56,6 @@ RunPage::RunPage(QWidget *parent)
     : Page(pluginName(), tr("Run"), parent)
 {
     body()->addWidget(makeCards());
-    body()->addWidget(makeWaiting());
     body()->addWidget(makeKeys(), 1);
     body()->addWidget(makeFilters());
     connect(brisa::ThemeManager::instance(), &brisa::ThemeManager::themeChanged, this,
@@ -97,23 +94,6 @@ QWidget *RunPage::makeCards()
     return cards;
 }
 
-QWidget *RunPage::makeWaiting()
-{
-    m_waiting = new QFrame(this);
-    m_waiting->setObjectName(QStringLiteral("waiting"));
-    m_waiting->setProperty("role", QStringLiteral("card"));
-    m_waitingText = makeLine(QStringLiteral("title"), m_waiting);
-    auto *const cancel = new QPushButton(tr("Cancel"), m_waiting);
-    cancel->setObjectName(QStringLiteral("cancelRequest"));
-    auto *const row = new QHBoxLayout(m_waiting);
-    row->setContentsMargins(metrics::Margin, metrics::Margin, metrics::Margin, metrics::Margin);
-    row->addWidget(m_waitingText, 1);
-    row->addWidget(cancel);
-    connect(cancel, &QPushButton::clicked, this, [this] { request(QStringLiteral("cancel")); });
-    m_waiting->hide();
-    return m_waiting;
-}
-
 QWidget *RunPage::makeKeys()
 {
     auto *const keys = new QWidget(this);
@@ -122,23 +102,23 @@ QWidget *RunPage::makeKeys()
     column->setSpacing(metrics::Grid);
     auto *const row = new QHBoxLayout;
     row->setSpacing(metrics::Margin);
-    m_start = new QPushButton(tr("Start"), keys);
-    m_start->setObjectName(QStringLiteral("startProgram"));
+    m_start = new QPushButton(tr("  Start"), keys);
+    m_start->setObjectName(QStringLiteral("runStart"));
     m_start->setProperty("role", QStringLiteral("primary"));
     m_stop = new QPushButton(keys);
-    m_stop->setObjectName(QStringLiteral("stopProgram"));
+    m_stop->setObjectName(QStringLiteral("runStop"));
     m_stop->setProperty("role", QStringLiteral("danger"));
     for (QPushButton *const key : {m_start, m_stop}) {
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         // The host's style sheet has heights of its own for buttons.
-        key->setStyleSheet(QStringLiteral("min-height: %1px; max-height: %2px; font-size: 24px;")
-                               .arg(QString::number(LowestKey), QString::number(HighestKey)));
+        key->setStyleSheet(QStringLiteral("min-height: %1px; font-size: 24px;").arg(LowestKey));
         key->setFont(brisa::ThemeManager::font(brisa::TextSize::Heading, true));
         key->setIconSize({KeyIcon, KeyIcon});
         row->addWidget(key, 1);
     }
     m_reason = makeLine(QStringLiteral("muted"), keys);
     m_reason->setObjectName(QStringLiteral("startReason"));
+    m_reason->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     column->addLayout(row, 1);
     column->addWidget(m_reason);
     connect(m_start, &QPushButton::clicked, this, &RunPage::start);
@@ -162,8 +142,11 @@ QWidget *RunPage::makeFilters()
 void RunPage::drawKeys()
 {
     const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
-    m_start->setIcon(brisa::glyphIcon(Glyph::Play, colours.onAccent, colours.disabledText));
-    m_stop->setIcon(brisa::glyphIcon(Glyph::Stop, colours.onAccent, colours.disabledText));
+    for (const auto &[key, glyph] : {std::pair(m_start, Glyph::Play), {m_stop, Glyph::Stop}}) {
+        QIcon icon(brisa::glyphPixmap(glyph, colours.onAccent, KeyIcon));
+        icon.addPixmap(brisa::glyphPixmap(glyph, colours.disabledText, KeyIcon), QIcon::Disabled);
+        key->setIcon(icon);
+    }
 }
 
 void RunPage::refresh()
@@ -173,7 +156,6 @@ void RunPage::refresh()
     refreshProgram(live);
     refreshMode(live);
     refreshPower(live);
-    refreshWaiting(live);
     refreshKeys(live);
     const bool startFilter = hostFlag("brisa.r.zeplet.filter.run");
     const bool stopFilter = hostFlag("brisa.r.zeplet.filter.stop");
@@ -187,12 +169,34 @@ void RunPage::refresh()
 
 void RunPage::refreshProgram(bool live)
 {
+    const bool waits = live && waiting() != ForNothing;
+    if (!waits) {
+        m_waitingSince.invalidate();
+        m_second.stop();
+    }
     if (!live)
         m_program->setState(Glyph::Stop, Tone::Muted, tr("Unknown"), tr("The robot may be moving"));
+    else if (waits)
+        showWaiting();
     else if (isRunning())
         m_program->setState(Glyph::Play, Tone::Ok, tr("Running"), tr("Keep clear of the robot"));
     else
         m_program->setState(Glyph::Stop, Tone::Muted, tr("Stopped"), tr("No program is running"));
+}
+
+// The panel's own strip offers to cancel it; this tells for how long it lasts already.
+void RunPage::showWaiting()
+{
+    if (!m_waitingSince.isValid())
+        m_waitingSince.start();
+    m_second.start();
+    const QString seconds = QString::number(m_waitingSince.elapsed() / 1000);
+    if (waiting() == ForStart)
+        m_program->setState(Glyph::Cycle, Tone::Accent, tr("Starting"),
+                            tr("A plugin has to agree: %1 s").arg(seconds));
+    else
+        m_program->setState(Glyph::Cycle, Tone::Warning, tr("Stopping"),
+                            tr("It runs until a plugin agrees: %1 s").arg(seconds));
 }
 
 void RunPage::refreshMode(bool live)
@@ -222,29 +226,13 @@ void RunPage::refreshPower(bool live)
     m_power->setButton(on ? tr("Switch off") : tr("Switch on"), live);
 }
 
-void RunPage::refreshWaiting(bool live)
-{
-    const Waiting what = live ? waiting() : ForNothing;
-    m_waiting->setVisible(what != ForNothing);
-    if (what == ForNothing) {
-        m_waitingSince.invalidate();
-        m_second.stop();
-        return;
-    }
-    if (!m_waitingSince.isValid())
-        m_waitingSince.start();
-    m_second.start();
-    const QString seconds = QString::number(m_waitingSince.elapsed() / 1000);
-    m_waitingText->setText(what == ForStart
-                               ? tr("The start waits for a plugin to agree: %1 s").arg(seconds)
-                               : tr("The stop waits for a plugin: %1 s").arg(seconds));
-}
-
 void RunPage::refreshKeys(bool live)
 {
     QString reason;
     if (!live)
-        reason = tr("Nothing can be started: wait until the controller is connected.");
+        reason
+            = tr("Nothing can be started or stopped here until the controller is connected. If the "
+                 "robot moves, use the emergency stop.");
     else if (waiting() == ForStop)
         reason = tr("A second stop does not wait for the plugin.");
     else if (waiting() == ForStart)
@@ -256,7 +244,7 @@ void RunPage::refreshKeys(bool live)
     m_reason->setText(reason);
     m_start->setEnabled(live && reason.isEmpty());
     m_stop->setEnabled(live);
-    m_stop->setText(live && waiting() == ForStop ? tr("Stop now") : tr("Stop"));
+    m_stop->setText(live && waiting() == ForStop ? tr("  Stop now") : tr("  Stop"));
 }
 
 /** The host carries it out, with the plugins' filters, and resets the key. */

@@ -4,13 +4,12 @@
 
 #include <QElapsedTimer>
 
-class QFrame;
 class QLabel;
 class FilterCard;
 class StateCard;
 
-/** Whether the program runs, in which mode and with which power, and the operator's keys for it.
- *  Where plugins filter starts or stops, it shows that one waits, and takes it back if asked to. */
+/** Whether the program runs or waits for a plugin's filter, in which mode and with which power, and
+ *  the operator's keys for it, with the reason where one can't be used. */
 class RunPage : public kit::Page
 {
     Q_OBJECT
@@ -27,14 +26,13 @@ private:
     enum Waiting { ForNothing, ForStart, ForStop };
 
     QWidget *makeCards();
-    QWidget *makeWaiting();
     QWidget *makeKeys();
     QWidget *makeFilters();
     void drawKeys();
     void refreshProgram(bool live);
+    void showWaiting();
     void refreshMode(bool live);
     void refreshPower(bool live);
-    void refreshWaiting(bool live);
     void refreshKeys(bool live);
     void request(const QString &what);
     void start();
@@ -47,8 +45,6 @@ private:
     StateCard *m_program = nullptr;
     StateCard *m_mode = nullptr;
     StateCard *m_power = nullptr;
-    QFrame *m_waiting = nullptr;
-    QLabel *m_waitingText = nullptr;
     QPushButton *m_start = nullptr;
     QPushButton *m_stop = nullptr;
     QLabel *m_reason = nullptr;

@@ -65,6 +65,7 @@ StateCard::StateCard(const QString &caption, const QString &buttonName, QWidget 
     grid->addWidget(m_caption, 0, 1);
     grid->addWidget(m_value, 1, 1);
     grid->addWidget(m_hint, 2, 0, 1, 2);
+    grid->setRowMinimumHeight(2, 5 * metrics::Grid);
     grid->setRowStretch(3, 1);
     if (!buttonName.isEmpty()) {
         m_button = new QPushButton(this);

@@ -10,7 +10,7 @@ using zeplet::zepletInterface;
 namespace
 {
 
-/** From the signals that the controller uses itself to what it uses them for. */
+/** From the signals that the controller uses itself to what it uses them for, in words. */
 QHash<QString, QString> systemFunctions()
 {
     QHash<QString, QString> functions;
@@ -20,7 +20,7 @@ QHash<QString, QString> systemFunctions()
         const QJsonArray entries = lists[QLatin1String(list)].toArray();
         for (const QJsonValue &entry : entries)
             functions.insert(entry[QLatin1String("signal")].toString(),
-                             entry[QLatin1String("function")].toString());
+                             entry[QLatin1String("function")].toString().replace('_', ' '));
     }
     return functions;
 }

@@ -24,7 +24,6 @@ constexpr int SearchWidth = 200;
 constexpr int ValueWidth = 130;
 constexpr int ButtonWidth = 140;
 constexpr int MarkWidth = 220;
-constexpr int ButtonColumn = 3;
 constexpr int WriteTimeout = 4800; // ms
 
 QString numberText(const QJsonValue &value)
@@ -102,7 +101,6 @@ SignalsPage::SignalsPage(QWidget *parent)
     , m_simulated(new kit::NoticeLine(kit::NoticeLine::Kept, this))
     , m_simulation(addButton(tr("Simulate inputs"), QStringLiteral("simulateInputs")))
 {
-    m_simulation->setCheckable(true);
     connect(m_simulation, &QPushButton::clicked, this, &SignalsPage::toggleSimulation);
     body()->addWidget(m_simulated);
     buildSelection();
@@ -148,9 +146,11 @@ void SignalsPage::buildTables()
     m_table = new kit::Table({tr("Signal"), tr("Value"), tr("Use"), QString()}, this);
     m_table->setObjectName(QStringLiteral("signals"));
     m_table->setWidths({0, ValueWidth, MarkWidth, ButtonWidth});
+    m_table->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_table, &kit::Table::buttonTapped, this, &SignalsPage::tap);
     m_registers = new kit::Table({tr("Register"), tr("Values")}, this);
     m_registers->setObjectName(QStringLiteral("registers"));
+    m_registers->setSelectionMode(QAbstractItemView::NoSelection);
     m_registers->setWidths({2 * MarkWidth, 0});
     m_stack = new QStackedWidget(this);
     m_stack->addWidget(m_table);
@@ -239,7 +239,7 @@ void SignalsPage::refreshSimulation()
     const bool live = zepletInterface()->getRobotConnected();
     const bool simulated = areInputsSimulated();
     m_simulation->setEnabled(live);
-    m_simulation->setChecked(live && simulated);
+    m_simulation->setText(live && simulated ? tr("End simulation") : tr("Simulate inputs"));
     m_simulated->say(Tone::Warning,
                      live && simulated ? tr("Inputs are simulated: programs do not see the real "
                                             "cell. They can be set in this table.")
@@ -284,12 +284,9 @@ void SignalsPage::askForNumber(const Signal &signal)
     form->open();
 }
 
-// The button shows what the controller says, not what was tapped.
 void SignalsPage::toggleSimulation()
 {
-    const bool simulated = areInputsSimulated();
-    m_simulation->setChecked(simulated);
-    if (simulated)
+    if (areInputsSimulated())
         return simulate(false);
     confirm(tr("Simulate the inputs?"),
             tr("Programs then see the values that are set here, not those of the cell. Nobody "

@@ -199,7 +199,8 @@ void ListMirrors::mirrorSignals(const QJsonValue &catalogue)
         return;
     ostrel::ModuleObject fresh;
     fresh.importFromJson(nullptr, QJsonObject(), true, true, false);
-    for (const QJsonValue &entry : catalogue.toArray()) {
+    const QJsonArray entries = catalogue.toArray();
+    for (const QJsonValue &entry : entries) {
         QJsonObject signal = entry.toObject();
         const QString name = signal.take(QStringLiteral("name")).toString();
         fresh.setChild(nullptr, name, signal.toVariantMap(), false);

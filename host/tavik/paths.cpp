@@ -20,7 +20,7 @@ namespace tavik
 namespace
 {
 
-constexpr qint64 smallFile = 1024 * 1024;
+constexpr qint64 mebibyte = 1048576;
 
 QString tr(const char *text)
 {
@@ -80,7 +80,7 @@ bool readPlainFile(const QString &path, qint64 limit, QByteArray *content, QStri
     QFile file;
     file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     if (file.size() > limit) {
-        *problem = tr("it is larger than %1 MiB").arg(limit / (1024 * 1024));
+        *problem = tr("it is larger than %1 MiB").arg(limit / mebibyte);
         return false;
     }
     *content = file.readAll();
@@ -93,7 +93,7 @@ bool readPlainFile(const QString &path, qint64 limit, QByteArray *content, QStri
 bool readSmallObject(const QString &path, QJsonObject *object, QString *problem)
 {
     QByteArray content;
-    if (!readPlainFile(path, smallFile, &content, problem))
+    if (!readPlainFile(path, mebibyte, &content, problem))
         return false;
     const QJsonDocument document = QJsonDocument::fromJson(content);
     *object = document.object();

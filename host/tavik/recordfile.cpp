@@ -14,7 +14,7 @@ using ostrel::Node;
 namespace
 {
 
-constexpr qint64 largestFile = 128 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(128) * 1024 * 1024;
 const QLatin1String supportedVersion("0.2");
 
 QString tr(const char *text)

@@ -56,8 +56,15 @@ ControlLine parseJoints(Words &words)
             return angles;
         });
     const auto numbers = words.numbers();
-    if (what != QLatin1String("set") || !numbers || numbers->isEmpty())
-        return usage(QStringLiteral("joints set DEGREES ... | joints get"));
+    const bool isMove = what == QLatin1String("move");
+    if ((!isMove && what != QLatin1String("set")) || !numbers || numbers->isEmpty()
+        || (isMove && numbers->first() <= 0))
+        return usage(
+            QStringLiteral("joints set DEGREES ... | joints move SPEED DEGREES ... | joints get"));
+    if (isMove)
+        return attempt([speed = numbers->first(), joints = numbers->mid(1)](Simulator &simulator) {
+            return simulator.motion().turnTo(joints, speed);
+        });
     return attempt(
         [joints = *numbers](Simulator &simulator) { return simulator.motion().setJoints(joints); });
 }

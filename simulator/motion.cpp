@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QtMath>
 #include <memory>
+#include <utility>
 
 namespace simulator
 {
@@ -80,9 +81,28 @@ void Motion::enable()
         giveUp(*problem);
         return;
     }
-    m_path = m_waiting->path;
-    m_travel = Travel(m_path.length, qMin(m_waiting->speed, m_path.topSpeed));
+    begin(*std::exchange(m_waiting, std::nullopt));
+}
+
+Refusal Motion::turnTo(const Joints &joints, double speed)
+{
+    if (!m_robot.values().power)
+        return QStringLiteral("the motors are off");
+    if (m_moving)
+        return QStringLiteral("the robot moves already");
+    if (auto refusal = m_arm.checkJoints(joints))
+        return refusal;
     m_waiting.reset();
+    m_enableTimer.stop();
+    m_ofProgram = m_robot.values().program;
+    begin({PathPlanner(m_arm).turn(m_joints, joints), speed});
+    return std::nullopt;
+}
+
+void Motion::begin(const Move &move)
+{
+    m_path = move.path;
+    m_travel = Travel(m_path.length, qMin(move.speed, m_path.topSpeed));
     m_started = m_clock();
     m_moving = true;
     m_robot.setMoving(true);
@@ -108,6 +128,7 @@ void Motion::finish()
     m_joints = joints();
     m_timer.stop();
     m_moving = false;
+    m_ofProgram = false;
     m_robot.setMoving(false);
     emit moved();
     emit movingChanged(false);
@@ -144,6 +165,8 @@ void Motion::watchRobot()
         if (m_moving)
             finish();
         giveUp({MotionError::Interrupted, QStringLiteral("the motors went off")});
+    } else if (m_ofProgram && !m_robot.values().program) {
+        stop();
     } else if (modeChanged) {
         stop();
         giveUp({MotionError::Interrupted, QStringLiteral("the operating mode changed")});

@@ -42,6 +42,9 @@ public:
     void enable();
     /** Gives up the move that waits. */
     void withdraw();
+    /** What a program does: turns the axes at once, without an enable, and stops with the program.
+     *  `speed` as above. Refused while the motors are off or it moves, and beyond its limits. */
+    Refusal turnTo(const Joints &joints, double speed);
     /** Slows down to rest and gives up the move that waits. */
     void stop();
 
@@ -68,6 +71,7 @@ private:
         double speed = 0;
     };
     MotionProblem checkReady() const;
+    void begin(const Move &move);
     void watchRobot();
     void finish();
     void giveUp(const MotionError &error);
@@ -83,6 +87,7 @@ private:
     Travel m_travel;
     double m_started = 0;
     bool m_moving = false;
+    bool m_ofProgram = false; ///< the program asked for the move
     bool m_automatic = false;
 };
 

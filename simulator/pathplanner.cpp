@@ -70,10 +70,15 @@ PathPlanner::Result PathPlanner::joint(const Joints &from, const MotionTarget &t
     const auto found = reach(target, from);
     if (const auto *error = std::get_if<MotionError>(&found))
         return *error;
+    return turn(from, std::get<Joints>(found));
+}
+
+Path PathPlanner::turn(const Joints &from, const Joints &to) const
+{
     Path path;
-    path.joints = {from, std::get<Joints>(found)};
+    path.joints = {from, to};
     path.topSpeed = kTopSpeed;
-    path.length = slowestAxisTime(from, path.joints.last()) * kTopSpeed;
+    path.length = slowestAxisTime(from, to) * kTopSpeed;
     return path;
 }
 

@@ -20,6 +20,8 @@ public:
 
     /** All axes turn evenly, from start to end at once. */
     Result joint(const Joints &from, const MotionTarget &target) const;
+    /** The same to joints that are within their limits. */
+    Path turn(const Joints &from, const Joints &to) const;
     /** The tool centre point goes straight. */
     Result linear(const Joints &from, const MotionTarget &target) const;
 

@@ -26,7 +26,7 @@ void Program::setRunning(bool running)
 
 void Program::next()
 {
-    if (!m_timer.isActive())
+    if (!m_timer.isActive() || (m_mustWait && m_mustWait()))
         return;
     const QString line = m_values.lines.at(m_index);
     m_index = (m_index + 1) % m_values.lines.size();

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
+#include <functional>
 
 namespace simulator
 {
@@ -21,6 +22,8 @@ public:
 
     explicit Program(const Values &values, QObject *parent = nullptr);
 
+    /** While this says so, the next line does not come. */
+    void setWait(const std::function<bool()> &mustWait) { m_mustWait = mustWait; }
     /** A program that starts begins with its first line, at once. */
     void setRunning(bool running);
 
@@ -31,6 +34,7 @@ private:
     void next();
 
     Values m_values;
+    std::function<bool()> m_mustWait;
     QTimer m_timer;
     int m_index = 0;
 };

@@ -105,6 +105,7 @@ Simulator::Simulator(const Scenario &scenario, QObject *parent)
     connect(&d->faults, &Faults::conditionsChanged, this, &Simulator::applyConditions);
     connect(&d->timeline, &Timeline::due, this,
             [this](const QString &line) { carryOut(QStringLiteral("timeline"), line); });
+    d->program.setWait([this] { return d->motion.isMoving(); });
     connect(&d->program, &Program::due, this, [this](const QString &line) {
         if (!carryOut(QStringLiteral("program"), line))
             d->robot.stopProgram();

@@ -359,6 +359,25 @@ private slots:
         QVERIFY(cell.ask("var get n").contains("\"value\":1"));
         QVERIFY(cell.control("program stop").isDone());
     }
+
+    void programMoves()
+    {
+        Cell cell(scenario(R"({"robot": {"power": "on"}, "variables": [{"name": "n", "value": 0}],
+            "program": {"every": 10, "do": ["joints move 0.3 0 10 -10 0 80 0", "var set n 1",
+                                            "joints move 0.01 40 10 -10 0 80 0"]}})"));
+        QVERIFY(cell.control("joints set 0 0 0 0 90 0").isDone());
+        QVERIFY(cell.control("program start").isDone());
+        QString arrived; // when the next line comes
+        connect(&cell.variables(), &simulator::Variables::changed, this,
+                [&] { arrived = cell.ask("joints get"); });
+        QTRY_COMPARE(arrived, "[0,10,-10,0,80,0]");
+        QTRY_VERIFY(cell.motion().isMoving());
+        QVERIFY(cell.control("program stop").isDone());
+        QTRY_VERIFY(!cell.motion().isMoving());
+        QVERIFY(cell.motion().joints().first() < 40);
+        QVERIFY(cell.ask("joints move 1 0 0 500 0 0 0").startsWith("error: "));
+        QCOMPARE(cell.problems.size(), 0);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestCell)

@@ -64,7 +64,10 @@ PathCheck::PathCheck(CommandRegistry &registry, const Context &context)
 
 std::optional<QJsonArray> PathCheck::points() const
 {
-    QFile file(m_context.pointsFile());
+    const QString path = m_context.pointsFile();
+    if (path.isEmpty())
+        return std::nullopt;
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();

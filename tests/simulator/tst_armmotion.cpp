@@ -219,6 +219,12 @@ private slots:
         QCOMPARE(bench.state(), QStringLiteral("idle"));
     }
 
+    void pathCheckWithoutFiles()
+    {
+        const QJsonValue answer = Bench().run("move.path.check", QJsonArray {"a", "b"}).result;
+        QCOMPARE(answer["error"].toInt(), int(MotionError::NoPosition));
+    }
+
     void refusedMoveLeavesNoneWaiting()
     {
         Bench bench;

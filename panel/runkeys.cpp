@@ -17,6 +17,11 @@ namespace metrics = brisa::metrics;
 namespace
 {
 
+ostrel::ModuleObject *waitingNode()
+{
+    return m(QStringLiteral("brisa.r.zeplet.waiting"));
+}
+
 QPushButton *makeKey(const QString &text, const QString &wish, QWidget *parent)
 {
     auto *const key = new QPushButton(text, parent);
@@ -54,6 +59,7 @@ RunKeys::RunKeys(const RobotState &robot, QWidget *parent)
     row->addWidget(m_start);
     row->addWidget(m_stop);
     connect(&robot, &RobotState::changed, this, &RunKeys::refresh);
+    connect(waitingNode(), &ostrel::ModuleObject::changed, this, &RunKeys::refresh);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &RunKeys::refresh);
     refresh();
 }
@@ -62,7 +68,8 @@ void RunKeys::refresh()
 {
     const bool connected = m_robot.controllerConnected();
     const bool running = connected && m_robot.running().value_or(false);
-    const bool ready = connected && !running && m_robot.powered().value_or(false);
+    const bool ready = connected && !running && m_robot.powered().value_or(false)
+        && waitingNode()->getStr(QString()).isEmpty();
     setLooks(m_start, brisa::Glyph::Play, ready ? QStringLiteral("primary") : QString());
     setLooks(m_stop, brisa::Glyph::Stop, running ? QStringLiteral("danger") : QString());
     // Set anew, it takes up the roles.

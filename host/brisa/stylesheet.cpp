@@ -79,6 +79,7 @@ QTabBar::tab {
     min-height: 38px; padding: 8px 16px; color: @mutedText; background: transparent; border: none;
     border-bottom: 2px solid transparent;
 }
+QTabBar::scroller { width: 56px; }
 QTabBar::tab:selected { color: @accent; border-bottom-color: @accent; }
 QProgressBar {
     min-height: 8px; max-height: 8px; border: none; border-radius: 4px; background: @border;

@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QTabBar>
+#include <kest/bmodule.h>
+#include <kest/expandsidebar.h>
+#include <kivra/navigation.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
 
@@ -126,7 +129,8 @@ private Q_SLOTS:
             QVERIFY(m_panel.click("accept"));
         }
         QTRY_VERIFY2(m_panel.notice().contains(sentence), qPrintable(m_panel.notice()));
-        QVERIFY(m_panel.notice().contains(name));
+        QVERIFY(m_panel.notice().contains(name.left(15)));
+        QCOMPARE(m_panel.looks("light"), QString());
         QTRY_VERIFY(!m_panel.find<QWidget>("busy"));
         QCOMPARE(m("brisa.msg._")->getInt(0), 0);
         QTRY_COMPARE(m_panel.cell("projects", name).isNull(), action != "raced");
@@ -252,6 +256,7 @@ private Q_SLOTS:
             {"projects", "confirm"},  {"projects", "offline"},  {"signals", "inputs"},
             {"signals", "simulated"}, {"signals", "outputs"},   {"signals", "analogue"},
             {"signals", "empty"},     {"signals", "registers"}, {"signals", "offline"},
+            {"projects", "narrow"},   {"signals", "narrow"},    {"run", "narrow"},
             {"run", "idle"},          {"run", "running"},       {"run", "waiting"},
             {"run", "offline"}};
         for (const auto &[page, state] : states) {
@@ -273,6 +278,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
+        m_guest.reset();
         m_panel.click("cancel");
         m_panel.click("cancelWaiting");
         m_panel.simulator.control("simulation off");
@@ -285,7 +291,14 @@ private Q_SLOTS:
         zepletInterface()->startRunningFilter(false);
     }
 
-    void cleanupTestCase() { QVERIFY(m_panel.session->finish()); }
+    // An overlay that is still open goes with the panel.
+    void cleanupTestCase()
+    {
+        QVERIFY(m_panel.show("zeplet.page-projects"));
+        QVERIFY(m_panel.click("newProject"));
+        QVERIFY(m_panel.session->finish());
+        QCOMPARE(m("brisa.msg._")->getInt(0), 0);
+    }
 
 private:
     QString robotDirectory() const { return m_panel.workspace() + "/SIM-0001"; }
@@ -338,6 +351,8 @@ private:
             waitForPlugin();
         else if (state == "offline")
             goOffline();
+        else if (state == "narrow")
+            openSideBar();
     }
 
     void waitForPlugin()
@@ -348,6 +363,18 @@ private:
         QTRY_VERIFY(m_panel.find<QWidget>("cancelWaiting"));
     }
 
+    void openSideBar()
+    {
+        auto *const bar = m_panel.window().findChild<kest::ExpandSideBar *>();
+        m_guest = std::make_unique<kest::BModule>();
+        QVERIFY(bar->addPage(m_guest.get(), "guest", new QLabel("guest")));
+        bar->show();
+        qo::kivra::registerPhysicalButtons(m_guest.get(), "guest", {{"Key", {}, {}, {}}}, {},
+                                           {instantiatedCenterWidget()->currentKey()});
+        const QString page = instantiatedCenterWidget()->currentKey();
+        QVERIFY(m_panel.show("panel.home") && m_panel.show(page));
+    }
+
     void goOffline()
     {
         m_panel.simulator.control("fault controller_down");
@@ -355,6 +382,7 @@ private:
     }
 
     PageFixture m_panel {cell()};
+    std::unique_ptr<kest::BModule> m_guest; ///< has the side bar and keys
 };
 
 int main(int argc, char *argv[])

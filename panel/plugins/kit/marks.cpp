@@ -13,6 +13,7 @@ namespace
 
 constexpr int MarkHeight = 26;
 constexpr int MarkPadding = 10;
+constexpr int LongestName = 32; // characters, which fit into a line of a card
 
 QFont markFont()
 {
@@ -20,6 +21,13 @@ QFont markFont()
 }
 
 } // namespace
+
+QString shortened(const QString &name)
+{
+    if (name.size() <= LongestName)
+        return name;
+    return name.left(LongestName - 12) + QStringLiteral(" … ") + name.right(9);
+}
 
 ToneColours toneColours(Tone tone)
 {

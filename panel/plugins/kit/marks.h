@@ -21,6 +21,9 @@ struct ToneColours {
 /** The current theme's colours for a meaning. */
 ToneColours toneColours(Tone tone);
 
+/** A name for a sentence or a title: the middle of one that is too long is left out. */
+QString shortened(const QString &name);
+
 /** Unknown: nobody knows at present, as without a link. */
 enum class Lamp { None, Off, On, Unknown };
 

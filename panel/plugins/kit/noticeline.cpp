@@ -45,6 +45,9 @@ NoticeLine::NoticeLine(Kind kind, QWidget *parent)
     m_text->setObjectName(QStringLiteral("notice"));
     m_text->setTextFormat(Qt::PlainText); // names come from people and files
     m_text->setWordWrap(true);
+    QSizePolicy policy = m_text->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored); // no sentence widens a page
+    m_text->setSizePolicy(policy);
     m_close->setAutoRaise(true);
     m_close->setFixedSize(metrics::Touch, metrics::Touch);
     m_close->setVisible(kind == Closable);

@@ -82,8 +82,13 @@ QPushButton *Page::addButton(const QString &text, const QString &objectName, con
     auto *const button = new QPushButton(text, this);
     button->setObjectName(objectName);
     button->setProperty("role", role);
-    m_header->addWidget(button);
+    addToHeader(button);
     return button;
+}
+
+void Page::addToHeader(QWidget *widget)
+{
+    m_header->addWidget(widget);
 }
 
 QVBoxLayout *Page::body() const

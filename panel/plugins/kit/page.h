@@ -40,6 +40,8 @@ public:
     /** Adds a button right of the title. role as the host's style sheet has it. */
     QPushButton *addButton(const QString &text, const QString &objectName,
                            const QString &role = QString());
+    /** Adds something else there. */
+    void addToHeader(QWidget *widget);
     QVBoxLayout *body() const;
 
     /** Says something of the operator's last action; an empty sentence says no more. */

@@ -16,6 +16,13 @@ namespace kit
 using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
 
+namespace
+{
+
+constexpr int LeastRest = 220;
+
+} // namespace
+
 bool Cell::operator==(const Cell &other) const
 {
     return text == other.text && hint == other.hint && tone == other.tone && lamp == other.lamp
@@ -83,13 +90,26 @@ void Table::setHeaders(const QStringList &headers)
 
 void Table::setWidths(const QVector<int> &widths)
 {
+    m_widths = widths;
     for (int column = 0; column < widths.size(); ++column) {
         const bool rest = widths.at(column) == 0;
         horizontalHeader()->setSectionResizeMode(column,
                                                  rest ? QHeaderView::Stretch : QHeaderView::Fixed);
         if (!rest)
-            setColumnWidth(column, widths.at(column));
+            setColumnWidth(column, qAbs(widths.at(column)));
     }
+    hideWhatIsTooMuch();
+}
+
+// Beside a plugin's side bar, names have to stay legible.
+void Table::hideWhatIsTooMuch()
+{
+    int taken = 0;
+    for (const int width : qAsConst(m_widths))
+        taken += qAbs(width);
+    const bool tooMuch = viewport()->width() - taken < LeastRest;
+    for (int column = 0; column < m_widths.size(); ++column)
+        setColumnHidden(column, tooMuch && m_widths.at(column) < 0);
 }
 
 void Table::setEmptyState(brisa::Glyph glyph, const QString &title, const QString &hint)
@@ -148,6 +168,12 @@ void Table::paintEvent(QPaintEvent *event)
     painter.setPen(colours.mutedText);
     painter.drawText(QRect(box.x(), y, box.width(), box.bottom() - y),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyHint);
+}
+
+void Table::resizeEvent(QResizeEvent *event)
+{
+    hideWhatIsTooMuch();
+    QTableView::resizeEvent(event);
 }
 
 // Not earlier: most pages are never shown in a session.

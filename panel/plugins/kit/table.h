@@ -45,7 +45,8 @@ public:
      *  which the table was scrolled stays. Cheap where little differs. */
     void setRows(const QVector<Row> &rows);
     void setHeaders(const QStringList &headers);
-    /** Pixels by column; 0: the column takes what is left. */
+    /** Pixels by column. 0: the column takes what is left; below 0: as wide, but hidden where too
+     *  little would be left. */
     void setWidths(const QVector<int> &widths);
     void setEmptyState(brisa::Glyph glyph, const QString &title, const QString &hint);
 
@@ -65,14 +66,17 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void selectionChanged(const QItemSelection &selected,
                           const QItemSelection &deselected) override;
 
 private:
     QString keyOf(const QModelIndex &index) const;
+    void hideWhatIsTooMuch();
 
     TableModel *m_model;
+    QVector<int> m_widths;
     brisa::Glyph m_emptyGlyph = brisa::Glyph::List;
     QString m_emptyTitle;
     QString m_emptyHint;

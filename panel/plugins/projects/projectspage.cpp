@@ -55,14 +55,13 @@ ProjectsPage::ProjectsPage(QWidget *parent)
     const QPushButton *const create
         = addButton(tr("New project"), QStringLiteral("newProject"), QStringLiteral("primary"));
     m_table->setObjectName(QStringLiteral("projects"));
-    m_table->setWidths({0, MarksWidth, CreatedWidth});
+    m_table->setWidths({0, MarksWidth, -CreatedWidth});
     m_table->setEmptyState(brisa::Glyph::Folder, tr("No projects yet"),
                            tr("\"New project\" makes the first one for this robot."));
     body()->addWidget(m_table, 1);
     connect(create, &QPushButton::clicked, this, &ProjectsPage::askForNew);
     connect(m_open, &QPushButton::clicked, this, [this] { open(m_table->currentKey()); });
     connect(m_remove, &QPushButton::clicked, this, [this] { askToRemove(m_table->currentKey()); });
-    connect(m_table, &kit::Table::opened, this, &ProjectsPage::open);
     connect(m_table, &kit::Table::currentKeyChanged, this, &ProjectsPage::refreshButtons);
     follow({QStringLiteral("tavik.project.refresh_project"),
             QStringLiteral("tavik.project.project_list"),
@@ -118,7 +117,8 @@ void ProjectsPage::create(const QString &name, const QString &description, bool 
 {
     work(tr("Creating the project"), [this, name, description, open] {
         const int code = zepletInterface()->createProject(name, description, open);
-        tell(refusals::ofCreate(code, name), tr("The project \"%1\" is there.").arg(name));
+        tell(refusals::ofCreate(code, name),
+             tr("The project \"%1\" is there.").arg(kit::shortened(name)));
         refresh();
         m_table->choose(name);
     });
@@ -134,7 +134,8 @@ void ProjectsPage::open(const QString &name)
         return say(Tone::Warning, refusal);
     work(tr("Opening the project"), [this, name] {
         const int code = zepletInterface()->changeProject(name);
-        tell(refusals::ofOpen(code, name), tr("The project \"%1\" is open.").arg(name));
+        tell(refusals::ofOpen(code, name),
+             tr("The project \"%1\" is open.").arg(kit::shortened(name)));
     });
 }
 
@@ -153,7 +154,7 @@ void ProjectsPage::askToRemove(const QString &name)
     if (project->autoload)
         text += QStringLiteral("\n\n")
             + tr("The controller loads it when it starts: it will load none afterwards.");
-    confirm(tr("Remove the project \"%1\"?").arg(name), text, tr("Remove"),
+    confirm(tr("Remove the project \"%1\"?").arg(kit::shortened(name)), text, tr("Remove"),
             [this, name] { remove(name); });
 }
 
@@ -161,7 +162,8 @@ void ProjectsPage::remove(const QString &name)
 {
     work(tr("Removing the project"), [this, name] {
         const int code = zepletInterface()->removeProject(name);
-        tell(refusals::ofRemove(code, name), tr("The project \"%1\" is removed.").arg(name));
+        tell(refusals::ofRemove(code, name),
+             tr("The project \"%1\" is removed.").arg(kit::shortened(name)));
     });
 }
 

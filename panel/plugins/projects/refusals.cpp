@@ -1,5 +1,7 @@
 #include "refusals.h"
 
+#include "kit/marks.h"
+
 #include <QCoreApplication>
 
 namespace refusals
@@ -10,7 +12,7 @@ namespace
 
 QString sentence(const char *text, const QString &name)
 {
-    return QCoreApplication::translate("refusals", text).arg(name);
+    return QCoreApplication::translate("refusals", text).arg(kit::shortened(name));
 }
 
 } // namespace

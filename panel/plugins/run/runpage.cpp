@@ -209,8 +209,7 @@ void RunPage::refreshMode(bool live)
     else
         m_mode->setState(Glyph::Cycle, Tone::Accent, tr("Automatic"),
                          tr("Programs run at full speed"));
-    m_mode->setButton(manual ? tr("Switch to automatic") : tr("Switch to manual"),
-                      live && !isRunning());
+    m_mode->setButton(manual ? tr("Go automatic") : tr("Go manual"), live && !isRunning());
 }
 
 void RunPage::refreshPower(bool live)

@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr int Strip = metrics::Grid / 2;
+constexpr int WidthWithPicture = 25 * metrics::Grid;
 
 brisa::ElidedLabel *makeLine(TextSize size, bool bold, QWidget *parent)
 {
@@ -70,6 +71,7 @@ StateCard::StateCard(const QString &caption, const QString &buttonName, QWidget 
     if (!buttonName.isEmpty()) {
         m_button = new QPushButton(this);
         m_button->setObjectName(buttonName);
+        m_button->setStyleSheet(QStringLiteral("padding-left: 4px; padding-right: 4px;"));
         grid->addWidget(m_button, 4, 0, 1, 2);
         connect(m_button, &QPushButton::clicked, this, &StateCard::tapped);
     }
@@ -107,6 +109,16 @@ void StateCard::paintEvent(QPaintEvent *event)
     painter.fillRect(0, 0, Strip, height(),
                      neutral ? ThemeManager::instance()->colours().border
                              : kit::toneColours(m_tone).line);
+}
+
+// A narrow card needs its width for words.
+void StateCard::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    const bool wide = width() >= WidthWithPicture;
+    m_picture->setVisible(wide);
+    static_cast<QGridLayout *>(layout())->setHorizontalSpacing(wide ? metrics::Margin : 0);
+    m_value->setFont(ThemeManager::font(wide ? TextSize::Heading : TextSize::Title, true));
 }
 
 void StateCard::applyTheme()

@@ -20,7 +20,7 @@ using zeplet::zepletInterface;
 namespace
 {
 
-constexpr int SearchWidth = 200;
+constexpr int SearchWidth = 180;
 constexpr int ValueWidth = 130;
 constexpr int ButtonWidth = 140;
 constexpr int MarkWidth = 220;
@@ -99,11 +99,12 @@ bool fits(const QString &text, const QString &search)
 SignalsPage::SignalsPage(QWidget *parent)
     : Page(pluginName(), tr("Signals"), parent)
     , m_simulated(new kit::NoticeLine(kit::NoticeLine::Kept, this))
-    , m_simulation(addButton(tr("Simulate inputs"), QStringLiteral("simulateInputs")))
+    , m_simulation(nullptr)
 {
-    connect(m_simulation, &QPushButton::clicked, this, &SignalsPage::toggleSimulation);
-    body()->addWidget(m_simulated);
     buildSelection();
+    m_simulation = addButton(tr("Simulate inputs"), QStringLiteral("simulateInputs"));
+    connect(m_simulation, &QPushButton::clicked, this, &SignalsPage::toggleSimulation);
+    body()->insertWidget(0, m_simulated);
     buildTables();
     follow({QStringLiteral("tavik.robot.io"), QStringLiteral("tavik.robot.io.signal_detail"),
             QStringLiteral("tavik.robot.io.values"),
@@ -129,14 +130,12 @@ void SignalsPage::buildSelection()
         m_tabs->setTabToolTip(m_tabs->addTab(shortName(static_cast<SignalType>(i))),
                               longName(static_cast<SignalType>(i)));
     m_tabs->addTab(tr("Registers"));
+    body()->addWidget(m_tabs);
     m_search = new QLineEdit(this);
     m_search->setObjectName(QStringLiteral("signalSearch"));
     m_search->setPlaceholderText(tr("Find"));
     m_search->setFixedWidth(SearchWidth);
-    auto *const row = new QHBoxLayout;
-    row->addWidget(m_tabs, 1);
-    row->addWidget(m_search);
-    body()->addLayout(row);
+    addToHeader(m_search);
     connect(m_tabs, &QTabBar::currentChanged, this, [this] { refresh(); });
     connect(m_search, &QLineEdit::textChanged, this, [this] { refresh(); });
 }
@@ -145,13 +144,13 @@ void SignalsPage::buildTables()
 {
     m_table = new kit::Table({tr("Signal"), tr("Value"), tr("Use"), QString()}, this);
     m_table->setObjectName(QStringLiteral("signals"));
-    m_table->setWidths({0, ValueWidth, MarkWidth, ButtonWidth});
+    m_table->setWidths({0, ValueWidth, -MarkWidth, ButtonWidth});
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_table, &kit::Table::buttonTapped, this, &SignalsPage::tap);
     m_registers = new kit::Table({tr("Register"), tr("Values")}, this);
     m_registers->setObjectName(QStringLiteral("registers"));
     m_registers->setSelectionMode(QAbstractItemView::NoSelection);
-    m_registers->setWidths({2 * MarkWidth, 0});
+    m_registers->setWidths({0, 0});
     m_stack = new QStackedWidget(this);
     m_stack->addWidget(m_table);
     m_stack->addWidget(m_registers);
@@ -183,7 +182,7 @@ void SignalsPage::refreshTabs()
     for (int i = 0; i < SignalTypes; ++i) {
         const auto type = static_cast<SignalType>(i + 1);
         m_tabs->setTabText(
-            i, shortName(type) + QStringLiteral("  ") + QString::number(countSignals(type)));
+            i, shortName(type) + QLatin1Char(' ') + QString::number(countSignals(type)));
     }
     m_stack->setCurrentWidget(showsRegisters() ? m_registers : m_table);
 }
@@ -267,7 +266,8 @@ void SignalsPage::setDigital(const Signal &signal)
 
 void SignalsPage::askForNumber(const Signal &signal)
 {
-    auto *const form = new kit::Form(this, tr("Set %1").arg(signal.name), tr("Set"));
+    auto *const form
+        = new kit::Form(this, tr("Set %1").arg(kit::shortened(signal.name)), tr("Set"));
     QLineEdit *const number
         = form->addText(signal.label.isEmpty() ? tr("Value") : signal.label,
                         QStringLiteral("signalValue"), numberText(signal.value));

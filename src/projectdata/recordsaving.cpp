@@ -22,7 +22,8 @@ bool saveAndPushRecords(const QString &kind)
     const QString project = openProjectName();
     const QString file = QLatin1Char('/') + kind + QStringLiteral(".json");
     const QString path = projectDirectory(project) + file;
-    if (!isPlainName(project) || !writeDataToJson(path, recordList(kind), kind)) {
+    const bool hasPlace = !workspaceDirectory().isEmpty() && isPlainName(project);
+    if (!hasPlace || !writeDataToJson(path, recordList(kind), kind)) {
         errorLine() << "write " << kind << ".json failed";
         return false;
     }

@@ -17,7 +17,8 @@ public:
      * made, file and directory are synced, and the file's modification time moves on by at least a
      * whole second against the file it replaces, also where the clock has run back. Only a plain
      * file is replaced, no directory, symbolic link or device. A file that the host has refused as
-     * damaged is copied beside itself first. indented: one member a line.
+     * damaged is copied beside itself first. indented: one member a line. A process that is killed
+     * meanwhile may leave one unfinished file beside it ("NAME.XXXXXX"); nothing reads that.
      *
      * Returns false, with an error line in the host's log, where value is undefined, nested deeper
      * than 1024 levels or can't be written; the old file is still there then, unless only the last

@@ -148,6 +148,8 @@ private Q_SLOTS:
         QVERIFY(m_panel.click("removeProject"));
         QVERIFY(QDir(robotDirectory()).exists("kept"));
         QVERIFY(m_panel.click("agree"));
+        QVERIFY(m_panel.find<QWidget>("busy")); // before the panel blocks
+        QVERIFY(QDir(robotDirectory()).exists("kept"));
         QTRY_VERIFY(m_panel.cell("projects", "kept").isNull());
         QVERIFY(!QDir(robotDirectory()).exists("kept"));
     }

@@ -114,6 +114,7 @@ QWidget *RunPage::makeKeys()
         key->setStyleSheet(QStringLiteral("min-height: %1px; font-size: 24px;").arg(LowestKey));
         key->setFont(brisa::ThemeManager::font(brisa::TextSize::Heading, true));
         key->setIconSize({KeyIcon, KeyIcon});
+        key->setFocusPolicy(Qt::NoFocus); // no space bar starts a robot
         row->addWidget(key, 1);
     }
     m_reason = makeLine(QStringLiteral("muted"), keys);
@@ -174,6 +175,8 @@ void RunPage::refreshProgram(bool live)
         m_waitingSince.invalidate();
         m_second.stop();
     }
+    if (isRunning())
+        m_startCheck.stop();
     if (!live)
         m_program->setState(Glyph::Stop, Tone::Muted, tr("Unknown"), tr("The robot may be moving"));
     else if (waits)
@@ -265,8 +268,8 @@ void RunPage::checkStart()
     if (isRunning() || waiting() != ForNothing)
         return;
     say(Tone::Warning,
-        tr("The program did not start, or has ended already: the message at the bottom of the "
-           "panel says why the controller refused, if it did. Put that right and start again."));
+        tr("The program has not started: the message at the bottom of the panel says why, if the "
+           "controller refused. Put that right and start again."));
 }
 
 void RunPage::switchMode()

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <brisa/thememanager.h>
 #include <ostrel/moduleobject.h>
@@ -50,6 +51,20 @@ QLabel *makeLine(const QString &role, QWidget *parent)
     return label;
 }
 
+void drawKey(QPushButton *key, Glyph glyph, const char *role)
+{
+    const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
+    const QColor line = *role ? colours.onAccent : colours.text;
+    QIcon icon(brisa::glyphPixmap(glyph, line, KeyIcon));
+    icon.addPixmap(brisa::glyphPixmap(glyph, colours.disabledText, KeyIcon), QIcon::Disabled);
+    key->setIcon(icon);
+    if (key->property("role").toString() == QLatin1String(role))
+        return;
+    key->setProperty("role", QString::fromLatin1(role));
+    key->style()->unpolish(key);
+    key->style()->polish(key);
+}
+
 } // namespace
 
 RunPage::RunPage(QWidget *parent)
@@ -60,7 +75,6 @@ RunPage::RunPage(QWidget *parent)
     body()->addWidget(makeFilters());
     connect(brisa::ThemeManager::instance(), &brisa::ThemeManager::themeChanged, this,
             &RunPage::drawKeys);
-    drawKeys();
     m_second.setInterval(1000);
     connect(&m_second, &QTimer::timeout, this, &RunPage::refreshSoon);
     m_startCheck.setSingleShot(true);
@@ -104,10 +118,8 @@ QWidget *RunPage::makeKeys()
     row->setSpacing(metrics::Margin);
     m_start = new QPushButton(tr("  Start"), keys);
     m_start->setObjectName(QStringLiteral("runStart"));
-    m_start->setProperty("role", QStringLiteral("primary"));
     m_stop = new QPushButton(keys);
     m_stop->setObjectName(QStringLiteral("runStop"));
-    m_stop->setProperty("role", QStringLiteral("danger"));
     for (QPushButton *const key : {m_start, m_stop}) {
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         // The host's style sheet has heights of its own for buttons.
@@ -140,14 +152,11 @@ QWidget *RunPage::makeFilters()
     return row;
 }
 
+// Colour only where there is something to do: a start that can be had, a program to be stopped.
 void RunPage::drawKeys()
 {
-    const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
-    for (const auto &[key, glyph] : {std::pair(m_start, Glyph::Play), {m_stop, Glyph::Stop}}) {
-        QIcon icon(brisa::glyphPixmap(glyph, colours.onAccent, KeyIcon));
-        icon.addPixmap(brisa::glyphPixmap(glyph, colours.disabledText, KeyIcon), QIcon::Disabled);
-        key->setIcon(icon);
-    }
+    drawKey(m_start, Glyph::Play, m_start->isEnabled() ? "primary" : "");
+    drawKey(m_stop, Glyph::Stop, isRunning() || waiting() != ForNothing ? "danger" : "");
 }
 
 void RunPage::refresh()
@@ -247,6 +256,7 @@ void RunPage::refreshKeys(bool live)
     m_start->setEnabled(live && reason.isEmpty());
     m_stop->setEnabled(live);
     m_stop->setText(live && waiting() == ForStop ? tr("  Stop now") : tr("  Stop"));
+    drawKeys();
 }
 
 /** The host carries it out, with the plugins' filters, and resets the key. */

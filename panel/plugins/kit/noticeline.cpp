@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
 #include <QToolButton>
 #include <brisa/thememanager.h>
 
@@ -37,7 +36,6 @@ Glyph toneGlyph(Tone tone)
 
 NoticeLine::NoticeLine(Kind kind, QWidget *parent)
     : QFrame(parent)
-    , m_row(new QHBoxLayout(this))
     , m_picture(new QLabel(this))
     , m_text(new QLabel(this))
     , m_close(new QToolButton(this))
@@ -53,11 +51,12 @@ NoticeLine::NoticeLine(Kind kind, QWidget *parent)
     m_close->setVisible(kind == Closable);
     m_close->setAccessibleName(tr("Close"));
     setMinimumHeight(metrics::Touch);
-    m_row->setContentsMargins(metrics::Margin, 0, 0, 0);
-    m_row->setSpacing(metrics::Margin);
-    m_row->addWidget(m_picture);
-    m_row->addWidget(m_text, 1);
-    m_row->addWidget(m_close);
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins(metrics::Margin, 0, 0, 0);
+    row->setSpacing(metrics::Margin);
+    row->addWidget(m_picture);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_close);
     connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &NoticeLine::applyTheme);
     hide();
@@ -69,20 +68,6 @@ void NoticeLine::say(Tone tone, const QString &sentence)
     m_text->setText(sentence);
     applyTheme();
     setVisible(!sentence.isEmpty());
-}
-
-QPushButton *NoticeLine::addButton(const QString &text, const QString &objectName)
-{
-    auto *const button = new QPushButton(text, this);
-    button->setObjectName(objectName);
-    m_row->setContentsMargins(metrics::Margin, metrics::Grid, metrics::Grid, metrics::Grid);
-    m_row->addWidget(button);
-    return button;
-}
-
-QString NoticeLine::text() const
-{
-    return isHidden() ? QString() : m_text->text();
 }
 
 void NoticeLine::paintEvent(QPaintEvent *)

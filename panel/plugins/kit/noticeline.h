@@ -4,9 +4,7 @@
 
 #include <QFrame>
 
-class QHBoxLayout;
 class QLabel;
-class QPushButton;
 class QToolButton;
 
 namespace kit
@@ -25,9 +23,6 @@ public:
     explicit NoticeLine(Kind kind, QWidget *parent = nullptr);
 
     void say(Tone tone, const QString &sentence);
-    /** Adds a button to one that is kept. */
-    QPushButton *addButton(const QString &text, const QString &objectName);
-    QString text() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -35,7 +30,6 @@ protected:
 private:
     void applyTheme();
 
-    QHBoxLayout *m_row;
     QLabel *m_picture;
     QLabel *m_text;
     QToolButton *m_close;

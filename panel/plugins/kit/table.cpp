@@ -83,11 +83,6 @@ void Table::setRows(const QVector<Row> &rows)
     selectionChanged(QItemSelection(), QItemSelection());
 }
 
-void Table::setHeaders(const QStringList &headers)
-{
-    m_model->setHeaders(headers);
-}
-
 void Table::setWidths(const QVector<int> &widths)
 {
     m_widths = widths;

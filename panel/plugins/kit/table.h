@@ -44,7 +44,6 @@ public:
     /** Shows these rows. The chosen row stays chosen as long as its key is there, and the place to
      *  which the table was scrolled stays. Cheap where little differs. */
     void setRows(const QVector<Row> &rows);
-    void setHeaders(const QStringList &headers);
     /** Pixels by column. 0: the column takes what is left; below 0: as wide, but hidden where too
      *  little would be left. */
     void setWidths(const QVector<int> &widths);

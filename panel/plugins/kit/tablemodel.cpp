@@ -32,12 +32,6 @@ void TableModel::replace(const QVector<Row> &rows)
     endResetModel();
 }
 
-void TableModel::setHeaders(const QStringList &headers)
-{
-    m_headers = headers;
-    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-}
-
 const Cell &TableModel::cell(const QModelIndex &index) const
 {
     static const Cell none;

@@ -19,7 +19,6 @@ public:
      *  and nothing was done. */
     bool update(const QVector<Row> &rows);
     void replace(const QVector<Row> &rows);
-    void setHeaders(const QStringList &headers);
 
     const QVector<Row> &rows() const { return m_rows; }
     const Cell &cell(const QModelIndex &index) const;

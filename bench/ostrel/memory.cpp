@@ -1,3 +1,4 @@
+#include "../heap.h"
 #include "points.h"
 
 #include <ostrel/moduleobject.h>
@@ -5,17 +6,9 @@
 #include <QJsonDocument>
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
 namespace
 {
-// Bytes that the main thread's heap has handed out, large blocks included.
-size_t heapInUse()
-{
-    const auto info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
-
 // Loads the records as a host does, from the text of their file; what stays is the tree.
 template <typename Load>
 void measure(benchmark::State &state, Load load)

@@ -12,7 +12,8 @@ class QIODevice;
 namespace ostrel
 {
 
-/** JSON text in UTF-8 that grows in one buffer, which is emptied into a device where one is given. */
+/** JSON text in UTF-8 that grows in one buffer, which is emptied into a device where one is given.
+ */
 class JsonTextWriter
 {
 public:

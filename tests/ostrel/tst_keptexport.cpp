@@ -91,9 +91,10 @@ private:
     QJsonObject record()
     {
         static const QStringList names {"p1", "P1", "5", "", "ä", "Ä"};
-        return {{"name", names[below(names.size())]},
-                {"d", QJsonArray {1, 0, 0}},
-                {"value", QJsonObject {{"a", m_json.object(3)}, {"c", QJsonArray {m_json.object(2)}}}}};
+        return {
+            {"name", names[below(names.size())]},
+            {"d", QJsonArray {1, 0, 0}},
+            {"value", QJsonObject {{"a", m_json.object(3)}, {"c", QJsonArray {m_json.object(2)}}}}};
     }
 
     void fill(ModuleObject &root)
@@ -101,7 +102,8 @@ private:
         QJsonArray list;
         for (int i = 0; i < records; ++i)
             list.append(record());
-        root.importFromJson(nullptr, QJsonObject {{"points", list}, {"other", 1}}, true, true, true);
+        root.importFromJson(nullptr, QJsonObject {{"points", list}, {"other", 1}}, true, true,
+                            true);
     }
 
     void appendRecord()

@@ -68,8 +68,8 @@ void touchFile(const QString &path)
     const int at = content.indexOf("\"x\": ", edits * 7919 % (content.size() / 2));
     content.replace(at + 5, 1, QByteArray::number(1 + edits++ % 9));
     const timespec times[2] = {{0, UTIME_NOW}, {old.st_mtim.tv_sec + 1, 0}};
-    if (!opened || at < 0 || !file.seek(0) || file.write(content) != content.size()
-        || !file.flush() || ::futimens(file.handle(), times) != 0 || ::fsync(file.handle()) != 0)
+    if (!opened || at < 0 || !file.seek(0) || file.write(content) != content.size() || !file.flush()
+        || ::futimens(file.handle(), times) != 0 || ::fsync(file.handle()) != 0)
         qFatal("%s can't be changed", qPrintable(path));
 }
 
@@ -84,8 +84,9 @@ void rsyncAlone(benchmark::State &state)
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("RSYNC_PASSWORD", "729413");
         rsync.setProcessEnvironment(environment);
-        rsync.start("rsync", {"-tvz", "--timeout=10", "--contimeout=10", "--progress",
-                              project.file(), "brisa@127.0.0.1::" + Project::remotePath()});
+        rsync.start("rsync",
+                    {"-tvz", "--timeout=10", "--contimeout=10", "--progress", project.file(),
+                     "brisa@127.0.0.1::" + Project::remotePath()});
         if (!rsync.waitForFinished(30000) || rsync.exitCode() != 0)
             qFatal("rsync failed: %s", rsync.readAllStandardError().constData());
         state.SetIterationTime(now() - start);

@@ -103,7 +103,8 @@ Project::WithoutRsync::WithoutRsync()
 {
     // Behind the panel's tools, before the system's.
     const int end = m_path.indexOf(':');
-    qputenv("PATH", m_path.left(end + 1) + QDir::current().filePath("ends").toUtf8() + m_path.mid(end));
+    qputenv("PATH",
+            m_path.left(end + 1) + QDir::current().filePath("ends").toUtf8() + m_path.mid(end));
 }
 
 Project::WithoutRsync::~WithoutRsync()

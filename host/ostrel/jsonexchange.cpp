@@ -131,7 +131,7 @@ QJsonValue exportChildren(const Node &node, Export exportChild)
 
 QJsonValue exportContainer(const Node &node)
 {
-    const QJsonValue kept = node.keptJson();
+    QJsonValue kept = node.keptJson();
     if (!kept.isUndefined())
         return kept;
     return exportChildren(node, [](const Node &child) { return toJson(child); });
@@ -148,7 +148,7 @@ QJsonValue exportMember(const Node &member)
 {
     if (!holdsContainers(member))
         return toJson(member);
-    const QJsonValue json = exportContainer(member);
+    QJsonValue json = exportContainer(member);
     member.keepJson(json);
     return json;
 }

@@ -44,7 +44,8 @@ public:
     void remove(int index)
     {
         m_nodes[index].~Node();
-        std::memmove(static_cast<void *>(m_nodes + index), m_nodes + index + 1,
+        std::memmove(static_cast<void *>(m_nodes + index),
+                     static_cast<const void *>(m_nodes + index + 1),
                      size_t(m_size - index - 1) * sizeof(Node));
         --m_size;
     }

@@ -21,16 +21,19 @@ constexpr double integers = 9223372036854775808.0; // 2^63
 
 JsonTextWriter::JsonTextWriter(bool indented, QIODevice *device)
     : m_device(device)
+    , m_text(device ? chunk : 256, Qt::Uninitialized)
+    , m_at(m_text.data())
+    , m_end(m_at + m_text.size())
     , m_indented(indented)
 {
 }
 
 void JsonTextWriter::grow(size_t bytes)
 {
-    if (m_device && m_at)
+    if (m_device)
         flush();
-    const auto used = m_at ? m_at - m_text.constData() : 0;
-    const auto usual = m_device ? size_t(chunk) : size_t(m_text.size()) * 2;
+    const auto used = m_at - m_text.constData();
+    const auto usual = size_t(m_text.size()) * (m_device ? 1 : 2);
     const auto wanted = std::max(usual, size_t(used) + bytes + 256);
     m_text.resize(int(wanted));
     m_at = m_text.data() + used;
@@ -243,23 +246,22 @@ void JsonTextWriter::writeUnit(const QChar *&at, const QChar *end)
 {
     const QChar c = *at++;
     const ushort unit = c.unicode();
-    if (unit < 0x80) {
-        escapeUnit(unit);
+    const bool isPair = c.isHighSurrogate() && at != end && at->isLowSurrogate();
+    if (unit < 0x80 || (c.isSurrogate() && !isPair)) {
+        escapeUnit(unit); // half a pair has no UTF-8, and must not get lost
     } else if (unit < 0x800) {
         put(char(0xc0 | unit >> 6));
         put(char(0x80 | (unit & 0x3f)));
-    } else if (!c.isSurrogate()) {
+    } else if (!isPair) {
         put(char(0xe0 | unit >> 12));
         put(char(0x80 | (unit >> 6 & 0x3f)));
         put(char(0x80 | (unit & 0x3f)));
-    } else if (c.isHighSurrogate() && at != end && at->isLowSurrogate()) {
+    } else {
         const uint point = QChar::surrogateToUcs4(c, *at++);
         put(char(0xf0 | point >> 18));
         put(char(0x80 | (point >> 12 & 0x3f)));
         put(char(0x80 | (point >> 6 & 0x3f)));
         put(char(0x80 | (point & 0x3f)));
-    } else {
-        escapeUnit(unit); // half a pair has no UTF-8, and must not get lost
     }
 }
 

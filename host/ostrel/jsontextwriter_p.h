@@ -69,8 +69,8 @@ private:
 
     QIODevice *const m_device;
     QByteArray m_text;
-    char *m_at = nullptr;
-    char *m_end = nullptr;
+    char *m_at;
+    char *m_end;
     const bool m_indented;
     bool m_likeExport = false;
     bool m_complete = true;

@@ -99,7 +99,7 @@ Node *ModuleObjectPrivate::ensureNode()
         node = &own;
         own.handle = this;
     }
-    for (const ModuleObjectPrivate *at = this; at; at = at->parent)
+    for (const ModuleObjectPrivate *at = this; at && at->node; at = at->parent)
         at->node->dropKeptJson();
     return const_cast<Node *>(node);
 }

@@ -20,12 +20,11 @@ int main(int argc, char **argv)
     std::promise<void> end;
     std::thread second([&] { end.get_future().wait(); });
 
-    benchmark::Initialize(&argc, argv); // before the project's directory is the working directory
-    bool isKnown = !benchmark::ReportUnrecognizedArguments(argc, argv);
-    if (isKnown) {
-        const Project project;
+    benchmark::Initialize(&argc, argv);
+    const bool isKnown = !benchmark::ReportUnrecognizedArguments(argc, argv);
+    if (isKnown)
         benchmark::RunSpecifiedBenchmarks();
-    }
+    Project::close();
     end.set_value();
     second.join();
     return isKnown ? 0 : 1;

@@ -11,10 +11,11 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+#include <memory>
 
 namespace
 {
-Project *project = nullptr;
+std::unique_ptr<Project> project;
 
 void require(bool done, const char *what)
 {
@@ -27,7 +28,7 @@ Project::Project()
     : m_home(QDir::currentPath())
     , m_controller({m_directory.filePath("controller"), {}})
 {
-    project = this;
+    pointRecords();
     QString error;
     require(m_controller.open(&error), qPrintable(error));
     if (m_controller.port() != simulator::FileServer::kStandardPort) {
@@ -51,12 +52,18 @@ Project::~Project()
 {
     QDir::setCurrent(m_home);
     m_controller.close();
-    project = nullptr;
 }
 
 Project &Project::instance()
 {
+    if (!project)
+        project.reset(new Project);
     return *project;
+}
+
+void Project::close()
+{
+    project.reset();
 }
 
 // As the host does it: from the text of the file.

@@ -6,15 +6,16 @@
 
 /**
  * The open project of this process, with a disk, a controller's rsync daemon (on port 873 if it is
- * to be had) and the desktop panel's tools. One lives while the benchmarks run.
+ * to be had) and the desktop panel's tools. Made on first use, when its directory becomes the
+ * working directory: by then the results have their file.
  */
 class Project
 {
 public:
-    Project();
     ~Project();
     Q_DISABLE_COPY(Project)
     static Project &instance();
+    static void close();
 
     /** Opens the project anew with the first so many of ten thousand point records. */
     void load(int points);
@@ -39,6 +40,8 @@ public:
     };
 
 private:
+    Project();
+
     QTemporaryDir m_directory;
     const QString m_home;
     simulator::FileServer m_controller;

@@ -248,7 +248,10 @@ int ModuleObject::indexOf(const QString &field, const QString &text,
 {
     const NameId name = NameTable::instance().find(field);
     const int count = childCount();
+    constexpr int ahead = 8; // records come from memory while those before them are compared
     for (int i = 0; i < count; ++i) {
+        if (i + ahead < count)
+            d->node->childAt(i + ahead)->prefetchChildren();
         if (reads(d->node->childAt(i)->child(name), text, sensitivity))
             return i;
     }

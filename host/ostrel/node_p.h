@@ -80,6 +80,8 @@ public:
     const Node *child(NameId name) const;
     /** The child at one step of a path: "#n" counts in a list, all else is a name. */
     const Node *descend(QStringView step) const;
+    /** Has the processor load the first children; nothing else. */
+    void prefetchChildren() const;
     // The same, to be changed
     Node *childAt(int index) { return toChange(std::as_const(*this).childAt(index)); }
     Node *child(NameId name) { return toChange(std::as_const(*this).child(name)); }

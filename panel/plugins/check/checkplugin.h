@@ -1,8 +1,7 @@
 #pragma once
 
 #include "checkscript.h"
-#include "checksteps.h"
-#include "simulatorprocess.h"
+#include "checksession.h"
 
 #include <zeplet/plugin/pluginbase.h>
 
@@ -24,12 +23,9 @@ public:
     void detach() override;
 
 private:
-    void see(const QString &hook);
     void subscribe();
 
-    QStringList m_hooks;
-    SimulatorProcess m_simulator;
-    CheckSteps m_steps;
+    CheckSession m_session;
     CheckScript m_script;
     bool m_passed = false;
     int m_stepCount = 0;

@@ -5,7 +5,7 @@
 namespace
 {
 constexpr int lookEveryMs = 20;
-constexpr int stepLimitMs = 10000;
+constexpr int stepLimitMs = 20000; // after the action: an edit alone may block for longer
 } // namespace
 
 CheckScript::CheckScript(QObject *parent)
@@ -30,17 +30,17 @@ void CheckScript::report(bool passed, int number, const QString &text)
 
 void CheckScript::enterStep()
 {
-    m_since.start();
     const CheckStep &step = m_steps.at(m_current);
     if (step.action)
         step.action();
+    m_since.start();
 }
 
 void CheckScript::look()
 {
     const CheckStep &step = m_steps.at(m_current);
     const bool passed = step.expected();
-    if (!passed && m_since.elapsed() < stepLimitMs)
+    if (!passed && step.waits && m_since.elapsed() < stepLimitMs)
         return;
     const QString seen
         = passed || !step.seen ? QString() : QStringLiteral("; seen: ") + step.seen();

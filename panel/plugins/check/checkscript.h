@@ -10,9 +10,10 @@
 /** One step of the check: something to do, and what must then come true. */
 struct CheckStep {
     QString title;
-    std::function<void()> action; ///< may be empty
-    std::function<bool()> expected;
-    std::function<QString()> seen; ///< says what was there instead; may be empty
+    std::function<void()> action = {}; ///< may be empty, and may block
+    std::function<bool()> expected = {};
+    std::function<QString()> seen = {}; ///< says what was there instead; may be empty
+    bool waits = true; ///< false: what is not so after the action will not come true by waiting
 };
 
 /**

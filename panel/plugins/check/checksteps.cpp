@@ -1,216 +1,95 @@
 #include "checksteps.h"
 
-#include "simulatorprocess.h"
+#include "projectfiles.h"
 
-#include <kest/bmodule.h>
-#include <kest/centerwidget.h>
 #include <zeplet/zeplet.h>
 
-#include <QDate>
-#include <QFileInfo>
-#include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
+#include <memory>
 
 using namespace zeplet;
 
-namespace
+CheckSteps allSteps(CheckSession *session)
 {
-const QString self = QStringLiteral("check");
-const QString example = QStringLiteral("monitor");
-const QString hubKey = QStringLiteral("check.value");
-const QString notifyPath = QStringLiteral("check.notice");
+    CheckSteps steps;
+    for (auto *group : {startSteps, controllerSteps, watchSteps, projectSteps, pointSteps,
+                        hotUpdateSteps, variableSteps, motionSteps, signalSteps,
+                        persistentVariableSteps, runSteps, lossSteps, endSteps})
+        steps += group(session);
+    return steps;
+}
 
-bool hasNavigationEntry(const QString &nav)
+CheckStep atOnce(const QString &title, const std::function<QString()> &problem)
 {
-    const QJsonArray entries = zepletInterface()
-                                   ->getNodeData(QStringLiteral("kivra.page.robot.page.pack.page"))
-                                   .toArray();
-    return std::any_of(entries.begin(), entries.end(), [&nav](const QJsonValue &entry) {
-        return entry.toObject().value(QStringLiteral("nav")).toString() == nav;
+    const auto found = std::make_shared<QString>();
+    return {title, [=] { *found = problem(); }, [found] { return found->isEmpty(); },
+            [found] { return *found; }, false};
+}
+
+CheckStep eventStep(CheckSession *session, const QString &title,
+                    const std::function<void()> &action, const QList<int> &types)
+{
+    return {title,
+            [session, action] {
+                session->forgetNews();
+                action();
+            },
+            [session, types] { return session->eventTypes() == types; },
+            [session] { return toldEvents(session); }};
+}
+
+CheckStep editStep(CheckSession *session, const QString &title, const QString &kind,
+                   const QString &name, const std::function<bool()> &edit)
+{
+    return atOnce(title, [=] {
+        if (!edit())
+            return QStringLiteral("the edit returned false");
+        session->kept()->keep(kind, name);
+        return projectfiles::difference(kind);
     });
 }
 
-bool hasLogFile(const QString &base)
+CheckStep answerStep(CheckSession *session, const QString &title, const QString &line,
+                     const std::function<bool(const QJsonValue &)> &fits)
 {
-    const QString date = QDate::currentDate().toString(QStringLiteral("yyyyMMdd"));
-    return QFileInfo(QStringLiteral("./log/%1_%2.log").arg(base, date)).size() > 0;
-}
-
-void send(const QString &command)
-{
-    zepletInterface()->rcRequestFullCommand(command, QJsonValue(), 4800);
-}
-} // namespace
-
-CheckSteps::CheckSteps(SimulatorProcess *simulator, const QStringList *hooks)
-    : m_simulator(simulator)
-    , m_hooks(hooks)
-{
-}
-
-QList<CheckStep> CheckSteps::all()
-{
-    return startSteps() + controllerSteps() + watchSteps() + lossSteps();
-}
-
-void CheckSteps::record(const ZepletEvent &event)
-{
-    m_events.append(event);
-}
-
-QList<CheckStep> CheckSteps::startSteps()
-{
-    const QStringList order = {QStringLiteral("init"), QStringLiteral("afterInit"),
-                               QStringLiteral("render"), QStringLiteral("idle")};
-    return {
-        {QStringLiteral("plugins registered"),
-         {},
-         [] {
-             const QJsonObject known
-                 = zepletInterface()->getNodeData(QStringLiteral("ostrel.plugins")).toObject();
-             return known.contains(self) && known.contains(example);
-         },
-         {}},
-        {QStringLiteral("modules made"),
-         {},
-         [] {
-             return bModule(mName(QStringLiteral("ostrel"), QStringLiteral("zeplet"), self))
-                 && bModule(mName(QStringLiteral("ostrel"), QStringLiteral("zeplet"), example));
-         },
-         {}},
-        {QStringLiteral("centre page present"),
-         {},
-         [] {
-             return instantiatedCenterWidget()->page(mName(QStringLiteral("zeplet"), example))
-                 != nullptr;
-         },
-         {}},
-        {QStringLiteral("navigation entry present"),
-         {},
-         [] { return hasNavigationEntry(mName(QStringLiteral("zeplet"), example)); },
-         {}},
-        {QStringLiteral("life cycle hooks in order: init, afterInit, render, idle"),
-         {},
-         [this, order] { return *m_hooks == order; },
-         [this] { return m_hooks->join(QStringLiteral(", ")); }},
-        {QStringLiteral("controller and hub connected"),
-         [this] { m_simulator->start(); },
-         [this] {
-             return m_simulator->isReady() && zepletInterface()->getRobotConnected()
-                 && zepletInterface()->getNodeData(QStringLiteral("nexo.connected")).toBool();
-         },
-         {}},
-    };
-}
-
-QList<CheckStep> CheckSteps::controllerSteps()
-{
-    return {
-        eventStep(QStringLiteral("motors on: RCPowerStatusChange"),
-                  [] { send(QStringLiteral("system.state.switch_motor_on")); },
-                  {RCPowerStatusChange}),
-        eventStep(QStringLiteral("automatic mode: RCRunModelChange, twice"),
-                  [] { send(QStringLiteral("system.state.switch_auto")); },
-                  {RCRunModelChange, RCRunModelChange}),
-        eventStep(QStringLiteral("program starts: RCRunStart"),
-                  [this] { m_simulator->control(QStringLiteral("program start")); }, {RCRunStart}),
-        eventStep(QStringLiteral("program stops: RCRunStop"),
-                  [this] { m_simulator->control(QStringLiteral("program stop")); }, {RCRunStop}),
-    };
-}
-
-QList<CheckStep> CheckSteps::watchSteps()
-{
-    return {
-        {QStringLiteral("watched hub key: NexoDataChange"),
-         [this] {
-             zepletInterface()->connectNexoData(self, hubKey, {});
-             m_simulator->control(QStringLiteral("hub set %1 42").arg(hubKey));
-         },
-         [this] { return sawData(NexoDataChange, hubKey, 42); },
-         {}},
-        {QStringLiteral("watched notify path: RCNotifyDataChange"),
-         [this] {
-             zepletInterface()->connectRcNotify(self, notifyPath, {});
-             m_simulator->control(QStringLiteral("notify %1 {\"step\":7}").arg(notifyPath));
-         },
-         [this] {
-             return sawData(RCNotifyDataChange, notifyPath,
-                            QVariantMap {{QStringLiteral("step"), 7}});
-         },
-         {}},
-        {QStringLiteral("custom plugin command answered"),
-         {},
-         [] {
-             const QJsonObject question {{QStringLiteral("question"), 6}};
-             return zepletInterface()->commandCustomData(nullptr, question)
-                 == QJsonArray {question};
-         },
-         {}},
-    };
-}
-
-QList<CheckStep> CheckSteps::lossSteps()
-{
-    return {
-        eventStep(QStringLiteral("controller lost: NetworkDisconnected"),
-                  [this] { m_simulator->kill(); }, {NetworkDisconnected}),
-        {QStringLiteral("hub lost"),
-         {},
-         [this] {
-             return !m_simulator->isRunning()
-                 && !zepletInterface()->getNodeData(QStringLiteral("nexo.connected")).toBool();
-         },
-         {}},
-        {QStringLiteral("controller and hub back: NetworkConnected, once"),
-         [this] {
-             m_events.clear();
-             m_simulator->start();
-         },
-         [this] { return seenTypes().count(NetworkConnected) == 1; },
-         {}},
-        {QStringLiteral("log files there"),
-         {},
-         [] {
-             return hasLogFile(QStringLiteral("zeplet"))
-                 && hasLogFile(QStringLiteral("zeplet/monitor"));
-         },
-         {}},
-    };
-}
-
-// Passes when exactly these events came, in this order; watched values that change by themselves do
-// not count.
-CheckStep CheckSteps::eventStep(const QString &title, const std::function<void()> &action,
-                                const QList<int> &types)
-{
-    return {title,
-            [this, action] {
-                m_events.clear();
-                action();
+    SimulatorProcess *const simulator = session->simulator();
+    return {title, [=] { simulator->control(line); },
+            [=] {
+                const QJsonValue result = simulator->result();
+                if (result.isUndefined() || fits(result))
+                    return !result.isUndefined();
+                simulator->control(line); // what was sent without waiting may still be on its way
+                return false;
             },
-            [this, types] { return seenTypes() == types; },
-            [this] {
-                QStringList names;
-                for (int type : seenTypes())
-                    names << eventTypeToString(static_cast<ZepletEventType>(type));
-                return names.join(QStringLiteral(", "));
+            [=] {
+                return QString::fromUtf8(
+                    QJsonDocument(QJsonArray {simulator->result()}).toJson(QJsonDocument::Compact));
             }};
 }
 
-QList<int> CheckSteps::seenTypes() const
+CheckStep messageStep(CheckSession *session, const QString &title,
+                      const std::function<void()> &action, const QString &message)
 {
-    QList<int> types;
-    for (const ZepletEvent &event : m_events) {
-        if (event.type != NexoDataChange && event.type != RCNotifyDataChange)
-            types << event.type;
-    }
-    return types;
+    return {title,
+            [session, action] {
+                session->forgetNews();
+                action();
+            },
+            [session, message] { return session->sawMessage(message); },
+            [session] { return session->messages().join(QStringLiteral(" | ")); }};
 }
 
-bool CheckSteps::sawData(int type, const QString &source, const QVariant &data) const
+void send(const QString &command, const QJsonValue &arguments)
 {
-    return std::any_of(m_events.begin(), m_events.end(), [&](const ZepletEvent &event) {
-        return event.type == type && event.source == source && event.data == data;
-    });
+    constexpr int timeoutMs = 4800;
+    zepletInterface()->rcRequestFullCommand(command, arguments, timeoutMs);
+}
+
+QString toldEvents(const CheckSession *session)
+{
+    QStringList names;
+    for (int type : session->eventTypes())
+        names << eventTypeToString(static_cast<ZepletEventType>(type));
+    return names.join(QStringLiteral(", "));
 }

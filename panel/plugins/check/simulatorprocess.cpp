@@ -3,6 +3,9 @@
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 SimulatorProcess::SimulatorProcess(QObject *parent)
     : QObject(parent)
 {
@@ -31,12 +34,19 @@ void SimulatorProcess::start()
         arguments << QStringLiteral("--files") << files << QStringLiteral("--rsync-port")
                   << qEnvironmentVariable("ZEPLET_RSYNC_PORT");
     m_ready = false;
+    m_due = 0;
     m_process.start(qEnvironmentVariable("ZEPLET_SIMULATOR"), arguments);
 }
 
 void SimulatorProcess::control(const QString &line)
 {
+    ++m_due;
     m_process.write(line.toUtf8() + '\n');
+}
+
+QJsonValue SimulatorProcess::result() const
+{
+    return m_due == 0 ? m_result : QJsonValue::Undefined;
 }
 
 void SimulatorProcess::kill()
@@ -49,10 +59,27 @@ bool SimulatorProcess::isRunning() const
     return m_process.state() != QProcess::NotRunning;
 }
 
+qint64 SimulatorProcess::processId() const
+{
+    return m_process.processId();
+}
+
 void SimulatorProcess::readOutput()
 {
     while (m_process.canReadLine()) {
-        if (m_process.readLine().startsWith("ready "))
+        const QByteArray line = m_process.readLine();
+        if (line.startsWith("ready "))
             m_ready = true;
+        else
+            readAnswer(line);
     }
+}
+
+void SimulatorProcess::readAnswer(const QByteArray &line)
+{
+    const QJsonObject answer = QJsonDocument::fromJson(line).object();
+    m_result = answer.value(QStringLiteral("ok")).toBool() ? answer.value(QStringLiteral("result"))
+                                                           : QJsonValue(QJsonValue::Undefined);
+    if (m_due > 0)
+        --m_due;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonValue>
 #include <QObject>
 #include <QProcess>
 
@@ -15,15 +16,21 @@ public:
 
     void start();
     bool isReady() const { return m_ready; }
-    /** Sends a line to the simulator's own control. */
+    /** Sends a line to the simulator's own control, without waiting for the answer. */
     void control(const QString &line);
+    /** The result of the last line; undefined while an answer is due, and where it was an error. */
+    QJsonValue result() const;
     /** Ends the process without a chance to say goodbye. */
     void kill();
     bool isRunning() const;
+    qint64 processId() const;
 
 private:
     void readOutput();
+    void readAnswer(const QByteArray &line);
 
     QProcess m_process;
+    QJsonValue m_result;
+    int m_due = 0; ///< answers that have not come
     bool m_ready = false;
 };

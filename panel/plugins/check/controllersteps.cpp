@@ -17,19 +17,16 @@ CheckSteps controllerSteps(CheckSession *session)
 {
     SimulatorProcess *const simulator = session->simulator();
     return {
-        eventStep(
-            session, QStringLiteral("motors on: RCPowerStatusChange"),
-            [] { send(QStringLiteral("system.state.switch_motor_on")); }, {RCPowerStatusChange}),
-        eventStep(
-            session, QStringLiteral("automatic mode: RCRunModelChange, twice"),
-            [] { send(QStringLiteral("system.state.switch_auto")); },
-            {RCRunModelChange, RCRunModelChange}),
-        eventStep(
-            session, QStringLiteral("program starts: RCRunStart"),
-            [=] { simulator->control(QStringLiteral("program start")); }, {RCRunStart}),
-        eventStep(
-            session, QStringLiteral("program stops: RCRunStop"),
-            [=] { simulator->control(QStringLiteral("program stop")); }, {RCRunStop}),
+        eventStep(session, QStringLiteral("motors on: RCPowerStatusChange"),
+                  [] { send(QStringLiteral("system.state.switch_motor_on")); },
+                  {RCPowerStatusChange}),
+        eventStep(session, QStringLiteral("automatic mode: RCRunModelChange, twice"),
+                  [] { send(QStringLiteral("system.state.switch_auto")); },
+                  {RCRunModelChange, RCRunModelChange}),
+        eventStep(session, QStringLiteral("program starts: RCRunStart"),
+                  [=] { simulator->control(QStringLiteral("program start")); }, {RCRunStart}),
+        eventStep(session, QStringLiteral("program stops: RCRunStop"),
+                  [=] { simulator->control(QStringLiteral("program stop")); }, {RCRunStop}),
     };
 }
 
@@ -46,7 +43,8 @@ CheckSteps watchSteps(CheckSession *session)
         {QStringLiteral("watched notify path: RCNotifyDataChange"),
          [=] {
              zepletInterface()->connectRcNotify(QStringLiteral("check"), notifyPath, {});
-             session->simulator()->control(QStringLiteral("notify %1 {\"step\":7}").arg(notifyPath));
+             session->simulator()->control(
+                 QStringLiteral("notify %1 {\"step\":7}").arg(notifyPath));
          },
          [=] { return session->sawData(RCNotifyDataChange, notifyPath, notice); }},
         {QStringLiteral("custom plugin command answered"),

@@ -65,9 +65,9 @@ QString lostOnPanel(CheckSession *session)
 {
     using namespace projectfiles;
     const QString inStore = lost(session, stored(point), stored(QStringLiteral("var")));
-    return inStore.isEmpty() ? lost(session, recordsOf(onPanel(point)),
-                                    recordsOf(onPanel(QStringLiteral("var"))))
-                             : inStore;
+    return inStore.isEmpty()
+        ? lost(session, recordsOf(onPanel(point)), recordsOf(onPanel(QStringLiteral("var"))))
+        : inStore;
 }
 
 QString lostOnController(CheckSession *session)
@@ -89,8 +89,7 @@ QString refusedAlone()
         || robot()->updateVarData(variable, 99))
         return QStringLiteral("an edit returned true");
     const bool same = projectfiles::onPanel(point) == before
-        && projectfiles::stored(point) == stored
-        && robot()->getVarObjDataByName(variable) == value;
+        && projectfiles::stored(point) == stored && robot()->getVarObjDataByName(variable) == value;
     return same ? QString() : QStringLiteral("something has changed");
 }
 
@@ -145,10 +144,9 @@ CheckSteps awaySteps(CheckSession *session, const std::shared_ptr<QByteArray> &l
                  && !robot()->getNodeData(QStringLiteral("nexo.connected")).toBool();
          }},
         atOnce(QStringLiteral("teaching is refused, nothing changes"), refusedAlone),
-        atOnce(QStringLiteral("a point made without a controller is kept on the panel"),
-               [=] {
-                   return problemOfUnsent(robot()->createPoint(alone, false, false), *lastSent);
-               }),
+        atOnce(
+            QStringLiteral("a point made without a controller is kept on the panel"),
+            [=] { return problemOfUnsent(robot()->createPoint(alone, false, false), *lastSent); }),
     };
 }
 

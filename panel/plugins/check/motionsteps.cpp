@@ -114,16 +114,16 @@ QString checkPaths()
 CheckSteps refusalSteps(CheckSession *session)
 {
     return {
-        eventStep(
-            session, QStringLiteral("motors off: RCPowerStatusChange"),
-            [] { send(QStringLiteral("system.state.switch_motor_off")); }, {RCPowerStatusChange}),
+        eventStep(session, QStringLiteral("motors off: RCPowerStatusChange"),
+                  [] { send(QStringLiteral("system.state.switch_motor_off")); },
+                  {RCPowerStatusChange}),
         {QStringLiteral("a move without motors is refused, with its reason"),
          [=] { moveTo(session, home, 250, true); },
          [] { return robot()->getNexoData(errorKey)[QStringLiteral("error")] == -50011; },
          situation},
-        eventStep(
-            session, QStringLiteral("motors on: RCPowerStatusChange"),
-            [] { send(QStringLiteral("system.state.switch_motor_on")); }, {RCPowerStatusChange}),
+        eventStep(session, QStringLiteral("motors on: RCPowerStatusChange"),
+                  [] { send(QStringLiteral("system.state.switch_motor_on")); },
+                  {RCPowerStatusChange}),
     };
 }
 
@@ -139,8 +139,7 @@ CheckSteps motionSteps(CheckSession *session)
              robot()->connectNexoData(QStringLiteral("check"), poseKey, {});
              session->simulator()->control(QStringLiteral("joints move 1.5 40 0 20 0 70 40"));
          },
-         [=] { return hasMoved(session); },
-         situation},
+         [=] { return hasMoved(session); }, situation},
         editStep(session, QStringLiteral("second point taught there"), QStringLiteral("point"),
                  pick, [] { return robot()->addCurrentPoint(pick, false, tool, wobj, {}); }),
         atOnce(QStringLiteral("paths checked: allowed, the same point, unknown"), checkPaths),
@@ -148,11 +147,9 @@ CheckSteps motionSteps(CheckSession *session)
         moveStep(session, QStringLiteral("move with the axes to the second one arrives"), pick,
                  true),
         {QStringLiteral("slow move under way"), [=] { moveTo(session, home, 20, false); },
-         [=] { return session->lastHubValue(stateKey) == QStringLiteral("moving"); },
-         situation},
+         [=] { return session->lastHubValue(stateKey) == QStringLiteral("moving"); }, situation},
         {QStringLiteral("stopped on the way"), [] { robot()->moveToStop(); },
-         [=] { return hasMoved(session) && !isAt(reportedPose(), home); },
-         situation},
+         [=] { return hasMoved(session) && !isAt(reportedPose(), home); }, situation},
     };
     return moves + refusalSteps(session);
 }

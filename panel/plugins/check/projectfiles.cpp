@@ -45,8 +45,8 @@ QByteArray onController(const QString &kind)
 QJsonArray recordsOf(const QByteArray &file)
 {
     const QJsonObject content = QJsonDocument::fromJson(file).object();
-    return content.value(QStringLiteral("points")).toArray(
-        content.value(QStringLiteral("variables")).toArray());
+    return content.value(QStringLiteral("points"))
+        .toArray(content.value(QStringLiteral("variables")).toArray());
 }
 
 QJsonObject recordOf(const QJsonArray &records, const QString &name)

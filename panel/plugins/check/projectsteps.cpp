@@ -17,9 +17,8 @@ const QString mark = QStringLiteral("Made by script/run --check, which removes i
 
 QString leftoverDescription()
 {
-    const QJsonArray projects = zepletInterface()
-                                    ->getNodeData(QStringLiteral("tavik.project.project_list"))
-                                    .toArray();
+    const QJsonArray projects
+        = zepletInterface()->getNodeData(QStringLiteral("tavik.project.project_list")).toArray();
     return projectfiles::recordOf(projects, project)
         .value(QStringLiteral("description"))
         .toString();

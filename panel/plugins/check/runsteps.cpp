@@ -43,29 +43,24 @@ CheckSteps filteredSteps(CheckSession *session)
     const QString run = QStringLiteral("run");
     const QString stop = QStringLiteral("stop");
     return {
-        eventStep(
-            session, QStringLiteral("with a filter, a start waits: RCBeforeRunStart"),
-            [] {
-                filter(true);
-                press("start");
-            },
-            {RCBeforeRunStart}),
+        eventStep(session, QStringLiteral("with a filter, a start waits: RCBeforeRunStart"),
+                  [] {
+                      filter(true);
+                      press("start");
+                  },
+                  {RCBeforeRunStart}),
         {QStringLiteral("a start that waits is cancelled"), [] { press("cancel"); },
          [] { return waitsFor(QString()); }},
-        eventStep(
-            session, QStringLiteral("a second start waits: RCBeforeRunStart"),
-            [] { press("start"); }, {RCBeforeRunStart}),
+        eventStep(session, QStringLiteral("a second start waits: RCBeforeRunStart"),
+                  [] { press("start"); }, {RCBeforeRunStart}),
         {QStringLiteral("the panel shows that a start waits"), {}, [=] { return waitsFor(run); }},
-        eventStep(
-            session, QStringLiteral("the plugin lets it start: RCRunStart"),
-            [] { robot()->startRunning(); }, {RCRunStart}),
-        eventStep(
-            session, QStringLiteral("with a filter, a stop waits: RCBeforeRunStop"),
-            [] { press("stop"); }, {RCBeforeRunStop}),
+        eventStep(session, QStringLiteral("the plugin lets it start: RCRunStart"),
+                  [] { robot()->startRunning(); }, {RCRunStart}),
+        eventStep(session, QStringLiteral("with a filter, a stop waits: RCBeforeRunStop"),
+                  [] { press("stop"); }, {RCBeforeRunStop}),
         {QStringLiteral("the panel shows that a stop waits"), {}, [=] { return waitsFor(stop); }},
-        eventStep(
-            session, QStringLiteral("the plugin lets it stop: RCRunStop"),
-            [] { robot()->stopRunning(); }, {RCRunStop}),
+        eventStep(session, QStringLiteral("the plugin lets it stop: RCRunStop"),
+                  [] { robot()->stopRunning(); }, {RCRunStop}),
     };
 }
 
@@ -75,18 +70,16 @@ CheckSteps runSteps(CheckSession *session)
 {
     return filteredSteps(session)
         + CheckSteps {
-            eventStep(
-                session, QStringLiteral("without a filter, a start: RCRunStart"),
-                [] {
-                    filter(false);
-                    press("start");
-                },
-                {RCRunStart}),
+            eventStep(session, QStringLiteral("without a filter, a start: RCRunStart"),
+                      [] {
+                          filter(false);
+                          press("start");
+                      },
+                      {RCRunStart}),
             {QStringLiteral("the program changes a register and a persistent variable"),
              {},
              programHasWorked},
-            eventStep(
-                session, QStringLiteral("without a filter, a stop: RCRunStop"),
-                [] { press("stop"); }, {RCRunStop}),
+            eventStep(session, QStringLiteral("without a filter, a stop: RCRunStop"),
+                      [] { press("stop"); }, {RCRunStop}),
         };
 }

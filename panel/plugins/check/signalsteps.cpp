@@ -44,10 +44,10 @@ QString listed()
     QStringList found;
     for (int type = 1; type <= 6; ++type)
         found << robot()->getIOByType(type);
-    const QStringList all = {
-        QStringLiteral("di_part"),   QStringLiteral("do_gripper"),  QStringLiteral("do_motors_on"),
-        QStringLiteral("gi_type"),   QStringLiteral("go_recipe"),   QStringLiteral("ai_pressure"),
-        QStringLiteral("ao_speed")};
+    const QStringList all
+        = {QStringLiteral("di_part"), QStringLiteral("do_gripper"), QStringLiteral("do_motors_on"),
+           QStringLiteral("gi_type"), QStringLiteral("go_recipe"),  QStringLiteral("ai_pressure"),
+           QStringLiteral("ao_speed")};
     return found == all ? QString() : found.join(QStringLiteral(", "));
 }
 
@@ -61,8 +61,9 @@ CheckStep refusedStep(CheckSession *session, const Signal &signal)
     const QString reason = signal.type == QLatin1String("DI")
         ? QStringLiteral("can only be changed in simulation mode")
         : QStringLiteral("Setting the signal was refused");
-    return messageStep(session, title(signal, "refused outside simulation, and told"),
-                       [=] { set(signal); }, reason);
+    return messageStep(
+        session, title(signal, "refused outside simulation, and told"), [=] { set(signal); },
+        reason);
 }
 
 QString inputsUntouched()
@@ -99,22 +100,24 @@ CheckSteps signalSteps(CheckSession *session)
     CheckSteps steps {atOnce(QStringLiteral("signals listed by type"), listed)};
     for (const Signal &signal : outputs)
         steps << setStep(signal, "set");
-    steps << messageStep(session, QStringLiteral("system signal refused, and told"),
-                         [] { set({"do_motors_on", "DO"}); },
-                         QStringLiteral("System IO cannot be simulated."));
+    steps << messageStep(
+        session, QStringLiteral("system signal refused, and told"),
+        [] {
+            set({"do_motors_on", "DO"});
+        },
+        QStringLiteral("System IO cannot be simulated."));
     for (const Signal &signal : inputs)
         steps << refusedStep(session, signal);
     steps << atOnce(QStringLiteral("refused inputs as they were"), inputsUntouched);
-    steps << CheckStep {QStringLiteral("simulation of inputs on"),
-                        [] {
-                            send(QStringLiteral("io.io_signal.set_input_simu_mode"),
-                                 QJsonObject {{QStringLiteral("on"), true}});
-                        },
-                        [] {
-                            return robot()
-                                ->getNodeData(QStringLiteral("tavik.robot.io.input_simu_mode"))
-                                .toBool();
-                        }};
+    steps << CheckStep {
+        QStringLiteral("simulation of inputs on"),
+        [] {
+            send(QStringLiteral("io.io_signal.set_input_simu_mode"),
+                 QJsonObject {{QStringLiteral("on"), true}});
+        },
+        [] {
+            return robot()->getNodeData(QStringLiteral("tavik.robot.io.input_simu_mode")).toBool();
+        }};
     for (const Signal &signal : inputs)
         steps << setStep(signal, "set in simulation");
     return steps << registerStep(session);
@@ -123,13 +126,11 @@ CheckSteps signalSteps(CheckSession *session)
 CheckSteps persistentVariableSteps(CheckSession *)
 {
     return {
-        {QStringLiteral("persistent variable registered"),
-         [] { robot()->registPERSVars({count}); },
+        {QStringLiteral("persistent variable registered"), [] { robot()->registPERSVars({count}); },
          [] { return robot()->getRegistedPERSVars() == QVector<QVariant> {count}; }},
         {QStringLiteral("persistent variable set"),
          [] { robot()->setValuesOfPERSVars({count}, {7}); },
-         [] { return persistentText() == QStringLiteral("7"); },
-         persistentText},
+         [] { return persistentText() == QStringLiteral("7"); }, persistentText},
         {QStringLiteral("registered variable reported by the hub"),
          {},
          [] {

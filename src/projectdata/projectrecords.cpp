@@ -55,14 +55,14 @@ std::unique_ptr<ModuleObject> newRecord(const QString &kind)
     return record;
 }
 
-ModuleObject *appendRecord(const QString &kind, std::unique_ptr<ModuleObject> record)
+bool appendRecord(const QString &kind, std::unique_ptr<ModuleObject> record)
 {
     ModuleObject *added = recordList(kind)->append(nullptr, std::move(record));
     if (added)
         touch(added);
     else
         errorLine() << "the project data hold no list of records, kind=" << kind;
-    return added;
+    return added != nullptr;
 }
 
 void touch(ModuleObject *record)

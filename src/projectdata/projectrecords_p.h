@@ -24,11 +24,10 @@ int placeOfExactName(ostrel::ModuleObject *list, const QString &name);
 
 /** A record of its own, a copy of the template. */
 std::unique_ptr<ostrel::ModuleObject> newRecord(const QString &kind);
-/** Puts a record at the end of the list and tells its watchers. Returns the record in the list;
- *  null, with an error line, where the list takes none. */
-ostrel::ModuleObject *appendRecord(const QString &kind,
-                                   std::unique_ptr<ostrel::ModuleObject> record);
-/** Tells the watchers of a record that something in it has changed. */
+/** Puts a record at the end of the list and tells its watchers; false, with an error line, where
+ *  the list takes none. */
+bool appendRecord(const QString &kind, std::unique_ptr<ostrel::ModuleObject> record);
+/** Tells the watchers of a record, or of a list, that something in it has changed. */
 void touch(ostrel::ModuleObject *record);
 
 /** Sends a request to the controller's program data and waits for the answer; a missing answer, or

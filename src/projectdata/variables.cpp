@@ -38,7 +38,7 @@ void setValue(ModuleObject *record, const QVariant &value)
     record->r(QStringLiteral("value"))->setChild(nullptr, valueElement, value);
 }
 
-ModuleObject *appendVariable(const QString &name, const QVariant &value, bool persistent)
+bool appendVariable(const QString &name, const QVariant &value, bool persistent)
 {
     std::unique_ptr<ModuleObject> record = newRecord(kind);
     record->set(nullptr, QStringLiteral("name"), name, false);
@@ -46,10 +46,10 @@ ModuleObject *appendVariable(const QString &name, const QVariant &value, bool pe
     record->set(nullptr, QStringLiteral("id"), variableList()->childCount(), false);
     setValue(record.get(), value);
     record->set(nullptr, QStringLiteral("pers"), persistent, false);
-    ModuleObject *added = appendRecord(kind, std::move(record));
-    if (added)
-        recordTree(kind)->set(nullptr, QStringLiteral("built"), false, true);
-    return added;
+    if (!appendRecord(kind, std::move(record)))
+        return false;
+    recordTree(kind)->set(nullptr, QStringLiteral("built"), false, true);
+    return true;
 }
 
 /** Holds what a variable has as its value, to put it back. */
@@ -166,12 +166,12 @@ bool InterfaceManager::addVarData(const QString &name, const QVariant &value, bo
 {
     if (!checkNew(name, value, getRobotConnected()))
         return false;
-    ModuleObject *added = appendVariable(name, value, persistent);
-    if (!added)
+    if (!appendVariable(name, value, persistent))
         return false;
-    if (!d->hotUpdateVar(QStringLiteral("add"), {variableList()->childCount() - 1}, {})) {
+    const int place = variableList()->childCount() - 1;
+    if (!d->hotUpdateVar(QStringLiteral("add"), {place}, {})) {
         errorLine() << "addVarData: hot update failed:" << name;
-        added->remove(this);
+        variableList()->removeAt(this, place);
         return false;
     }
     const bool saved = d->saveAndPushVar();
@@ -210,6 +210,7 @@ bool InterfaceManager::delVarData(const QStringList &names)
         return false;
     for (ModuleObject *record : records)
         record->remove(this);
+    touch(variableList());
     const bool saved = d->saveAndPushVar();
     if (!saved)
         errorLine() << "delVarData: save/push var.json failed";

@@ -1,7 +1,6 @@
 #include "openproject.h"
 #include "testcolumns.h"
 
-#include <QSignalSpy>
 #include <cmath>
 #include <limits>
 #include <memory>

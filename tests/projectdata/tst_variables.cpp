@@ -3,6 +3,7 @@
 #include "sentcommands.h"
 #include "testcolumns.h"
 
+#include <QSignalSpy>
 #include <limits>
 
 using namespace zeplet;
@@ -108,7 +109,9 @@ private Q_SLOTS:
         QFETCH(QString, names);
         InterfaceManager &api = *zepletInterface();
         LogCapture log;
+        QSignalSpy listChanges(m("tavik.project.var._list"), &ostrel::ModuleObject::changed);
         QVERIFY(operation(api));
+        QCOMPARE(listChanges.size(), request == "edit" ? 0 : 1);
         const QString sent = q("{'operator':'") + request + q("','variables':[") + entries + "]}";
         QCOMPARE(m_sent->take(), QStringList("project.variable " + sent));
         QCOMPARE(log.ofLevel("S"), QStringList("hotUpdateVar:" + sent));

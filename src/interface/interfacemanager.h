@@ -226,6 +226,7 @@ public:
     /** Writes up to seven joint values; missing ones become 0. */
     bool setPointJointData(const QString &name, const QVector<double> &joints,
                            const QString &index);
+    /** Puts an object in the place of an element, which is made where it is missing. */
     bool setPointElementJson(const QString &name, const QString &index, const QJsonObject &element);
     /** Makes sure that an element exists: a copy of the first one. */
     bool ensurePointElement(const QString &name, const QString &index);
@@ -241,6 +242,7 @@ public:
      *  the way is told on the hub key "move.last_error_with_setting". Blocks for one command. */
     void moveToStart(int &result, const QString &name, int speed, bool useConf, bool joint);
     void moveToStart(int &result, const QString &name, int speed, bool joint);
+    /** Stops that motion, and listens no longer for what goes wrong. Does not wait. */
     void moveToStop();
     /** 1 for equal names, 0 where the path is allowed, -2 where it is not. Blocks for the hub. */
     int checkPointMoveTo(const QString &from, const QString &to);
@@ -252,7 +254,9 @@ public:
     QJsonObject getVarObjDataByName(const QString &name);
     /** The names of the variables of a type; of all with an empty one. */
     QStringList getVarDataList(const QString &type);
+    /** Adds a variable, whose type is that of the value; false, too, if the name is taken. */
     bool addVarData(const QString &name, const QVariant &value, bool persistent);
+    /** Gives a variable, which is no connection, another value. Its type stays. */
     bool updateVarData(const QString &name, const QVariant &value);
     /** Deletes those of the named variables that are no connections; false if there are none. */
     bool delVarData(const QStringList &names);

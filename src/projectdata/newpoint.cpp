@@ -26,7 +26,7 @@ QString creationText()
 
 } // namespace
 
-std::unique_ptr<ModuleObject> newPoint(const QString &name, bool joint)
+std::unique_ptr<ModuleObject> newPoint(const QString &name, bool joint, const QString &persistence)
 {
     auto point = newRecord(QStringLiteral("point"));
     const auto set = [&](const QString &field, const QVariant &value) {
@@ -35,6 +35,8 @@ std::unique_ptr<ModuleObject> newPoint(const QString &name, bool joint)
     set(QStringLiteral("id"), pointList()->childCount());
     set(QStringLiteral("name"), name);
     set(QStringLiteral("property"), pointProperty(joint));
+    if (!persistence.isEmpty())
+        set(QStringLiteral("pers"), persistence);
     set(QStringLiteral("description"), creationText());
     set(QStringLiteral("func"), m(QStringLiteral("tavik.project.cur_func"))->getStr(QString()));
     set(QStringLiteral("task"), m(QStringLiteral("tavik.project.cur_task"))->getStr(QString()));

@@ -66,9 +66,8 @@ bool InterfaceManager::createPoint(const QString &name, bool joint, bool persist
         errorLine() << "createPoint: already exists, name=" << trimmed;
         return false;
     }
-    auto point = newPoint(trimmed, joint);
     const QString persistence = persistent ? QStringLiteral("true") : QStringLiteral("false");
-    point->set(nullptr, QStringLiteral("pers"), persistence, true);
+    auto point = newPoint(trimmed, joint, persistence);
     for (const char *size : {"d.#0", "d.#1", "d.#2"})
         point->set(nullptr, QLatin1String(size), 0, true);
     point->r(QStringLiteral("value"))->setChild(nullptr, firstPointElement(), QVariant());

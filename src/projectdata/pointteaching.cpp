@@ -18,19 +18,26 @@ using ostrel::ModuleObject;
 namespace
 {
 
-constexpr const char *poseExtras[] = {"pose.elb",
-                                      "pose.frame.ori.quaternion.q1",
-                                      "pose.frame.ori.quaternion.q2",
-                                      "pose.frame.ori.quaternion.q3",
-                                      "pose.frame.ori.quaternion.q4",
-                                      "conf.cf1",
-                                      "conf.cf2",
-                                      "conf.cf3",
-                                      "conf.cf4",
-                                      "conf.cf5",
-                                      "conf.cf6",
-                                      "conf.cf7",
-                                      "conf.cfx"};
+// In the order in which watchers of an element hear of them.
+constexpr const char *targetFields[] = {"pose.frame.pos.x",
+                                        "pose.frame.pos.y",
+                                        "pose.frame.pos.z",
+                                        "pose.elb",
+                                        "pose.frame.ori.euler.a",
+                                        "pose.frame.ori.euler.b",
+                                        "pose.frame.ori.euler.c",
+                                        "pose.frame.ori.quaternion.q1",
+                                        "pose.frame.ori.quaternion.q2",
+                                        "pose.frame.ori.quaternion.q3",
+                                        "pose.frame.ori.quaternion.q4",
+                                        "conf.cf1",
+                                        "conf.cf2",
+                                        "conf.cf3",
+                                        "conf.cf4",
+                                        "conf.cf5",
+                                        "conf.cf6",
+                                        "conf.cf7",
+                                        "conf.cfx"};
 
 /** Copies numbers from a part of the report, which may be missing, to an element. */
 struct NumberCopy {
@@ -115,9 +122,7 @@ void fillPointValueFromCurrentPose(ModuleObject *element, bool joint, ModuleObje
             joints.copy(jointField(i), jointField(i));
         joints.copyExternal(QStringLiteral("extern_pos.#%1"));
     } else {
-        for (const char *field : poseFields)
-            pose.copy(field);
-        for (const char *field : poseExtras)
+        for (const char *field : targetFields)
             pose.copy(field);
         joints.copyExternal(QStringLiteral("external_joint.#%1"));
     }

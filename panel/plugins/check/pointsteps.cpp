@@ -47,12 +47,13 @@ QVector<double> shifted(const QString &name, double z)
 }
 
 /** Writes the same element at another place, in a file of the same size; when that was. */
+// Not the time of its modification, which the panel sets forward where two would have the same.
 QString move(double x, QDateTime *written)
 {
     if (!robot()->setPointElementJson(array, QStringLiteral("[0]"), element(x)))
         return QStringLiteral("an edit returned false");
-    *written
-        = QFileInfo(projectfiles::panelDirectory() + QStringLiteral("/point.json")).lastModified();
+    *written = QFileInfo(projectfiles::panelDirectory() + QStringLiteral("/point.json"))
+                   .metadataChangeTime();
     return projectfiles::difference(point);
 }
 

@@ -1,0 +1,10 @@
+#include "kit/pageplugin.h"
+#include "variablespage.h"
+
+namespace
+{
+
+[[maybe_unused]] const bool registered
+    = kit::registerPage<VariablesPage>("variable", [] { return VariablesPage::tr("Variables"); });
+
+} // namespace

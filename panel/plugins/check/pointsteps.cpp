@@ -46,8 +46,8 @@ QVector<double> shifted(const QString &name, double z)
     return pose;
 }
 
-/** Writes the same element at another place, in a file of the same size; when that was. */
-// Not the time of its modification, which the panel sets forward where two would have the same.
+/** Writes the element in a file of the same size. written: when that was by the file system, since
+ *  the panel sets the modification time forward where two saves would have the same second. */
 QString move(double x, QDateTime *written)
 {
     if (!robot()->setPointElementJson(array, QStringLiteral("[0]"), element(x)))

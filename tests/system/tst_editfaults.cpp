@@ -88,7 +88,8 @@ const Break breaks[] = {
      true},
     {noPosition,
      {Controller, Controller, Controller, Controller, Controller},
-     control("fault dropped_link project.rl_program.get_rob_pos"), true},
+     control("fault dropped_link project.rl_program.get_rob_pos"),
+     true},
     {"hub down",
      {Controller, Controller, Controller, Controller, Nowhere},
      [](RobotSite &site) {
@@ -98,7 +99,8 @@ const Break breaks[] = {
      true},
     {"hub lost at the update",
      {Controller, Controller, Controller, Controller, Nowhere},
-     control("fault dropped_link project.variable"), true},
+     control("fault dropped_link project.variable"),
+     true},
     {"update refused with a code",
      {Controller, Controller, Store, Nowhere, Nowhere},
      [](RobotSite &site) {
@@ -140,8 +142,11 @@ QJsonArray points()
         QJsonObject value;
         for (const QString &index : indexes)
             value.insert(index, cart);
-        return QJsonObject {{"name", name}, {"property", "cart"}, {"pers", persistent},
-                            {"d", QJsonArray {0, 0, 0}}, {"value", value}};
+        return QJsonObject {{"name", name},
+                            {"property", "cart"},
+                            {"pers", persistent},
+                            {"d", QJsonArray {0, 0, 0}},
+                            {"value", value}};
     };
     QJsonObject spare = point("spare", "false", {"[0][0][0]"});
     spare.insert("description", noise());
@@ -152,7 +157,9 @@ QJsonArray points()
 QJsonArray variables()
 {
     const auto variable = [](const char *name, int value) {
-        return QJsonObject {{"name", name}, {"type", "int"}, {"pers", true},
+        return QJsonObject {{"name", name},
+                            {"type", "int"},
+                            {"pers", true},
                             {"value", QJsonObject {{"[0][0][0]", value}}}};
     };
     QJsonObject spare = variable("spare", 1);
@@ -219,6 +226,7 @@ private Q_SLOTS:
         m_site = std::make_unique<RobotSite>();
         QCOMPARE(api().createProject("cell", "", true), 0);
         QTRY_VERIFY(QFileInfo("controller/hmi/cell").isDir());
+        QTRY_COMPARE(m("tavik.project.cur_task")->getStr(""), QString("task0"));
         m_secrets = RobotSite::read("controller/rsyncd.secrets");
         for (const Edit &edit : edits) {
             prepare();
@@ -272,7 +280,7 @@ private Q_SLOTS:
         if (unheard && (now.way == Told || now.way == Taught))
             QTRY_VERIFY(toldOperator().contains("did not take over the change to point"));
 
-        mend(breaks[fault]);
+        mend(breaks[fault].dropsLinks);
         const bool isNext = reached != Controller || breaks[fault].dropsLinks;
         if (isNext) {
             QVERIFY(editSpare(kind));
@@ -280,8 +288,7 @@ private Q_SLOTS:
             QCOMPARE(stored(kind), expected);
         }
         // Once each: nothing is tried again, and nothing that was swallowed comes later.
-        const int unsaid
-            = what == "hub down" || (what == "controller down" && reached == Nowhere);
+        const int unsaid = what == "hub down" || (what == "controller down" && reached == Nowhere);
         QTRY_COMPARE(m_site->simulator.count("project.variable"), (isNext ? 2 : 1) - unsaid);
     }
 
@@ -295,6 +302,14 @@ private Q_SLOTS:
             checkFiles("point");
             checkFiles("var");
         }
+    }
+
+    /** One failure must not lead to the next. */
+    void cleanup()
+    {
+        limitFiles(RLIM_INFINITY);
+        if (QTest::currentTestFailed())
+            mend(true);
     }
 
     void cleanupTestCase() { m_site.reset(); }
@@ -316,12 +331,12 @@ private:
         m_site->banners.clear();
     }
 
-    void mend(const Break &fault)
+    void mend(bool links)
     {
         m_site->simulator.control("fault clear");
         RobotSite::write("controller/rsyncd.secrets", m_secrets);
         m_site->leadRsync("socat - TCP:127.0.0.1:%1");
-        if (fault.dropsLinks)
+        if (links)
             m_site->link();
     }
 

@@ -43,7 +43,8 @@ void ArmCamera::fit(const Box &box, const QRectF &area)
         seen.setCoords(qMin(seen.left(), at.x()), qMin(seen.top(), at.y()),
                        qMax(seen.right(), at.x()), qMax(seen.bottom(), at.y()));
     }
-    m_scale = qMin(area.width() / qMax(1.0, seen.width()), area.height() / qMax(1.0, seen.height()));
+    m_scale
+        = qMin(area.width() / qMax(1.0, seen.width()), area.height() / qMax(1.0, seen.height()));
     m_origin = area.center() - seen.center() * m_scale;
 }
 

@@ -2,8 +2,8 @@
 
 #include <QPointF>
 #include <QRectF>
-#include <QVector>
 #include <QVector3D>
+#include <QVector>
 
 /** The corners of what is to be seen, in mm. */
 struct Box {

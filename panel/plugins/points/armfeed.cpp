@@ -60,8 +60,8 @@ ArmFeed::ArmFeed(const QString &pluginName, QObject *parent)
 {
     m_read.setSingleShot(true);
     connect(&m_read, &QTimer::timeout, this, &ArmFeed::read);
-    for (const char *key : {"motion.skeleton", "motion.joints", "motion.pose", "motion.state",
-                            "motion.limits"})
+    for (const char *key :
+         {"motion.skeleton", "motion.joints", "motion.pose", "motion.state", "motion.limits"})
         follow(QLatin1String(key), &ArmFeed::readSoon);
     follow(ErrorKey, &ArmFeed::moveErrorChanged);
     connect(nexo()->mobj()->r(QStringLiteral("connected")), &ostrel::ModuleObject::changed, this,

@@ -355,10 +355,10 @@ void ArmPainter::drawMoving(const QString &text)
 {
     const kit::Mark mark {text, kit::Tone::Warning};
     const int width = kit::markWidth(mark);
-    kit::drawMark(m_painter,
-                  QRect(m_area.right() - metrics::Margin - width, metrics::Grid, width,
-                        5 * metrics::Grid),
-                  mark);
+    kit::drawMark(
+        m_painter,
+        QRect(m_area.right() - metrics::Margin - width, metrics::Grid, width, 5 * metrics::Grid),
+        mark);
 }
 
 void ArmPainter::drawEmpty(const QString &title, const QString &hint)
@@ -381,7 +381,6 @@ void ArmPainter::drawEmpty(const QString &title, const QString &hint)
     m_painter->drawText(QRect(box.x(), y, box.width(), 3 * metrics::Grid), Qt::AlignHCenter, title);
     m_painter->setFont(ThemeManager::font(brisa::TextSize::Body));
     m_painter->setPen(colours.mutedText);
-    m_painter->drawText(
-        QRect(box.x(), y + 4 * metrics::Grid, box.width(), 6 * metrics::Grid),
-        static_cast<int>(Qt::AlignHCenter) | Qt::TextWordWrap, hint);
+    m_painter->drawText(QRect(box.x(), y + 4 * metrics::Grid, box.width(), 6 * metrics::Grid),
+                        static_cast<int>(Qt::AlignHCenter) | Qt::TextWordWrap, hint);
 }

@@ -64,8 +64,8 @@ void MoveBar::build()
     m_reason->setProperty("role", QStringLiteral("caption"));
     m_reason->setTextFormat(Qt::PlainText);
     m_reason->setWordWrap(true);
-    m_reason->setMinimumHeight(2 * QFontMetrics(brisa::ThemeManager::font(
-                                       brisa::TextSize::Caption)).lineSpacing());
+    m_reason->setMinimumHeight(
+        2 * QFontMetrics(brisa::ThemeManager::font(brisa::TextSize::Caption)).lineSpacing());
     m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_speed->setObjectName(QStringLiteral("moveSpeed"));
     for (const int speed : Speeds)
@@ -104,11 +104,11 @@ void MoveBar::setTarget(const std::optional<Point> &point)
 void MoveBar::refresh()
 {
     const QString reason = refusal();
-    m_title->setText(m_feed->state().moving && !m_name.isEmpty()
-                         ? tr("Moving to %1").arg(m_name)
-                         : m_point ? tr("Move to %1").arg(m_point->name) : tr("Move"));
+    m_title->setText(m_feed->state().moving && !m_name.isEmpty() ? tr("Moving to %1").arg(m_name)
+                         : m_point ? tr("Move to %1").arg(m_point->name)
+                                   : tr("Move"));
     m_reason->setText(!reason.isEmpty() ? reason
-                      : m_point->elements.size() > 1
+                          : m_point->elements.size() > 1
                           ? tr("To its first element. Keep clear of the robot.")
                           : tr("Keep clear of the robot."));
     m_move->setEnabled(reason.isEmpty());
@@ -145,16 +145,16 @@ void MoveBar::askToMove()
     const QString wobj = target.wobj.isEmpty() ? zepletInterface()->getCurWobj() : target.wobj;
     if (tool == zepletInterface()->getCurTool() && wobj == zepletInterface()->getCurWobj())
         return move();
-    m_page->confirm(tr("Move with \"%1\" in \"%2\"?").arg(tool, wobj),
-                    tr("\"%1\" was taught with that tool in that work object. They get selected, in "
-                       "place of \"%2\" and \"%3\".")
-                        .arg(m_point->name, zepletInterface()->getCurTool(),
-                             zepletInterface()->getCurWobj()),
-                    tr("Select and move"), [this, target] {
-                        selectFrames(target);
-                        if (refusal().isEmpty())
-                            move();
-                    });
+    m_page->confirm(
+        tr("Move with \"%1\" in \"%2\"?").arg(tool, wobj),
+        tr("\"%1\" was taught with that tool in that work object. They get selected, in "
+           "place of \"%2\" and \"%3\".")
+            .arg(m_point->name, zepletInterface()->getCurTool(), zepletInterface()->getCurWobj()),
+        tr("Select and move"), [this, target] {
+            selectFrames(target);
+            if (refusal().isEmpty())
+                move();
+        });
 }
 
 void MoveBar::selectFrames(const Element &target)
@@ -180,8 +180,9 @@ void MoveBar::move()
         return m_patience.start(Patience);
     m_phase = Resting;
     if (result == -2)
-        tell(Tone::Warning, QT_TR_NOOP("\"%1\" has no arm configuration, which a move by joints "
-                                       "needs: teach it again, or move straight."));
+        tell(Tone::Warning,
+             QT_TR_NOOP("\"%1\" has no arm configuration, which a move by joints "
+                        "needs: teach it again, or move straight."));
     else
         tell(Tone::Warning,
              QT_TR_NOOP("\"%1\" has no position any more: choose another point, or teach it."));
@@ -194,8 +195,9 @@ void MoveBar::stop()
     m_stopped = true;
     zepletInterface()->moveToStop();
     if (!m_feed->state().live) {
-        m_page->say(Tone::Error, tr("There is no link, and the robot was not told to stop: if it "
-                                    "moves, use the emergency stop."));
+        m_page->say(Tone::Error,
+                    tr("There is no link, and the robot was not told to stop: if it "
+                       "moves, use the emergency stop."));
         return;
     }
     if (m_feed->state().moving)
@@ -211,8 +213,9 @@ void MoveBar::follow()
     if (m_phase != Resting && !m_feed->state().live) {
         m_phase = Resting;
         m_patience.stop();
-        tell(Tone::Error, QT_TR_NOOP("The link was lost on the way to \"%1\": the robot may still be "
-                                     "moving. Use the emergency stop, and check where it is."));
+        tell(Tone::Error,
+             QT_TR_NOOP("The link was lost on the way to \"%1\": the robot may still be "
+                        "moving. Use the emergency stop, and check where it is."));
     } else if (m_phase == Sent && m_feed->state().moving) {
         m_phase = Moving;
         m_patience.stop();
@@ -233,10 +236,9 @@ void MoveBar::refreshStop()
 {
     const bool moving = m_feed->state().moving || m_phase != Resting;
     const brisa::ThemeColours &colours = brisa::ThemeManager::instance()->colours();
-    m_stop->setIcon(QIcon(brisa::glyphPixmap(brisa::Glyph::Stop,
-                                             moving ? colours.onAccent : colours.error,
-                                             metrics::Icon + metrics::Grid,
-                                             devicePixelRatioF())));
+    m_stop->setIcon(
+        QIcon(brisa::glyphPixmap(brisa::Glyph::Stop, moving ? colours.onAccent : colours.error,
+                                 metrics::Icon + metrics::Grid, devicePixelRatioF())));
     const QString role = moving ? QStringLiteral("danger") : QString();
     if (m_stop->property("role").toString() == role)
         return;
@@ -250,8 +252,9 @@ void MoveBar::checkStarted()
     if (m_phase != Sent)
         return;
     m_phase = Resting;
-    tell(Tone::Warning, QT_TR_NOOP("The robot did not move: it is at \"%1\" already, or the "
-                                   "controller waits for something. Check its messages."));
+    tell(Tone::Warning,
+         QT_TR_NOOP("The robot did not move: it is at \"%1\" already, or the "
+                    "controller waits for something. Check its messages."));
     refresh();
 }
 

@@ -41,17 +41,19 @@ Outcome refused(const char *sentence, const QString &name)
 
 Outcome unsaved(const QString &name)
 {
-    return {Outcome::Unsaved,
-            text("\"%1\" is changed on this panel but not on the controller: check the link and the "
-                 "panel's disk, then save again.")
-                .arg(name)};
+    return {
+        Outcome::Unsaved,
+        text("\"%1\" is changed on this panel but not on the controller: check the link and the "
+             "panel's disk, then save again.")
+            .arg(name)};
 }
 
 Outcome noLink()
 {
-    return {Outcome::Refused,
-            text("There is no link to the controller, and nothing was changed: try again when it is "
-                 "connected.")};
+    return {
+        Outcome::Refused,
+        text("There is no link to the controller, and nothing was changed: try again when it is "
+             "connected.")};
 }
 
 Outcome gone(const QString &name)
@@ -143,9 +145,8 @@ Outcome setValues(const Point &point, const QString &index, const QVector<double
         return noLink();
     if (!zepletInterface()->getPointValueIndexList(point.name).contains(index))
         return gone(called(point, index));
-    const bool saved = point.joint
-        ? zepletInterface()->setPointJointData(point.name, values, index)
-        : zepletInterface()->setPointCartData(point.name, values, index);
+    const bool saved = point.joint ? zepletInterface()->setPointJointData(point.name, values, index)
+                                   : zepletInterface()->setPointCartData(point.name, values, index);
     return edited(saved, "\"%1\" has its new values.", point, index);
 }
 

@@ -20,8 +20,8 @@ struct Teaching {
     QString wobj;
 };
 
-/** Edits of points that tell what became of them. Each blocks for the controller, the disk and rsync
- *  (up to 30 s). */
+/** Edits of points that tell what became of them. Each blocks for the controller, the disk and
+ * rsync (up to 30 s). */
 namespace pointedits
 {
 

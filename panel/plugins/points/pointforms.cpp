@@ -98,7 +98,8 @@ QStringList withoutDoubles(QStringList names, const QString &needed)
 TeachingFields addTeaching(kit::Form *form, bool joint, const QString &tool, const QString &wobj)
 {
     const TeachingFields fields {
-        makeChoice("teachKind", {text("Cartesian: the tool's pose"), text("Joint: each axis' angle")},
+        makeChoice("teachKind",
+                   {text("Cartesian: the tool's pose"), text("Joint: each axis' angle")},
                    QString()),
         makeChoice("teachTool", withoutDoubles(zepletInterface()->getToolList(), tool), tool),
         makeChoice("teachWobj", withoutDoubles(zepletInterface()->getWobjList(), wobj), wobj)};
@@ -164,9 +165,8 @@ void askForNew(kit::Page *page, const QVector<Point> &points,
     const QCheckBox *const persistent = form->addCheck(
         text("Persistent: programs keep its changes"), QStringLiteral("pointPersistent"));
     form->setValidation([=] { return pointedits::nameRefusal(name->text(), points); });
-    form->onAccepted([=] {
-        accepted(name->text().trimmed(), persistent->isChecked(), fields.read());
-    });
+    form->onAccepted(
+        [=] { accepted(name->text().trimmed(), persistent->isChecked(), fields.read()); });
     form->open();
 }
 

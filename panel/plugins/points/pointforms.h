@@ -14,8 +14,9 @@ class Page;
 namespace pointforms
 {
 
-void askForNew(kit::Page *page, const QVector<Point> &points,
-               std::function<void(const QString &name, bool persistent, const Teaching &)> accepted);
+void askForNew(
+    kit::Page *page, const QVector<Point> &points,
+    std::function<void(const QString &name, bool persistent, const Teaching &)> accepted);
 void askToTeach(kit::Page *page, const Point &point, const Element &element,
                 std::function<void(const Teaching &)> accepted);
 /** limits: those of the axes in degrees, as far as they are known. */

@@ -87,8 +87,8 @@ PointsPage::PointsPage(QWidget *parent)
     : Page(pluginName(), tr("Points"), parent)
     , m_feed(new ArmFeed(pluginName(), this))
     , m_save(addButton(tr("Save again"), QStringLiteral("savePoints")))
-    , m_new(addButton(tr("Teach a new point"), QStringLiteral("newPoint"),
-                      QStringLiteral("primary")))
+    , m_new(
+          addButton(tr("Teach a new point"), QStringLiteral("newPoint"), QStringLiteral("primary")))
 {
     auto *const row = new QHBoxLayout;
     row->setSpacing(metrics::Margin);
@@ -195,10 +195,10 @@ void PointsPage::refresh()
                            live ? tr("Drive the robot to a place and teach it.")
                                 : tr("They can be taught when the controller is connected."));
     const QString name = project.section('/', -1);
-    setSubtitle(!live              ? tr("No link to the controller: nothing can be taught or changed")
-                    : name.isEmpty() ? tr("No project is open: these points belong to none")
-                                     : tr("Project %1, points: %2")
-                                           .arg(name, QString::number(rows.size())));
+    setSubtitle(!live ? tr("No link to the controller: nothing can be taught or changed")
+                    : name.isEmpty()
+                    ? tr("No project is open: these points belong to none")
+                    : tr("Project %1, points: %2").arg(name, QString::number(rows.size())));
     m_save->setVisible(m_unsaved);
     m_feed->read();
     refreshChosen();
@@ -264,10 +264,10 @@ void PointsPage::refreshMarks()
             if (!isInBase(one))
                 ++elsewhere;
             else if (isChosen || marks.size() < MostMarks)
-                marks.append({each.elements.size() > 1 ? each.name + ' ' + one.index : each.name,
-                              QVector3D(float(one.pose.at(0)), float(one.pose.at(1)),
-                                        float(one.pose.at(2))),
-                              isChosen});
+                marks.append(
+                    {each.elements.size() > 1 ? each.name + ' ' + one.index : each.name,
+                     QVector3D(float(one.pose.at(0)), float(one.pose.at(1)), float(one.pose.at(2))),
+                     isChosen});
         }
     }
     QStringList left;
@@ -275,8 +275,9 @@ void PointsPage::refreshMarks()
         left.append(tr("joint targets: %1").arg(joints));
     if (elsewhere > 0)
         left.append(tr("in other work objects: %1").arg(elsewhere));
-    m_arm->setMarks(marks, left.isEmpty() ? QString()
-                                          : tr("Not drawn: %1").arg(left.join(QStringLiteral(", "))));
+    m_arm->setMarks(marks,
+                    left.isEmpty() ? QString()
+                                   : tr("Not drawn: %1").arg(left.join(QStringLiteral(", "))));
 }
 
 void PointsPage::followArm()
@@ -313,8 +314,9 @@ void PointsPage::teachNew()
 {
     pointforms::askForNew(
         this, m_points, [this](const QString &name, bool persistent, const Teaching &teaching) {
-            edit(tr("Teaching \"%1\"").arg(name),
-                 [=] { return pointedits::teachNew(name, persistent, teaching); }, name);
+            edit(
+                tr("Teaching \"%1\"").arg(name),
+                [=] { return pointedits::teachNew(name, persistent, teaching); }, name);
         });
 }
 
@@ -338,9 +340,8 @@ void PointsPage::editValues()
     const QString index = chosenElement()->index;
     pointforms::askForValues(this, point, *chosenElement(), m_feed->state().limits,
                              [=](const QVector<double> &values) {
-                                 edit(tr("Saving \"%1\"").arg(point.name), [=] {
-                                     return pointedits::setValues(point, index, values);
-                                 });
+                                 edit(tr("Saving \"%1\"").arg(point.name),
+                                      [=] { return pointedits::setValues(point, index, values); });
                              });
 }
 

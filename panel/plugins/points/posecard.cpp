@@ -77,8 +77,8 @@ void PoseCard::drawPose(QPainter *painter)
     painter->drawLine(metrics::Margin, 0, width() - metrics::Margin, 0);
     const int column = (width() - 2 * metrics::Margin) / 3;
     for (int i = 0; i < 6; ++i) {
-        const QRect box(metrics::Margin + (i % 3) * column,
-                        metrics::Grid + (i / 3) * LineHeight, column - metrics::Grid, LineHeight);
+        const QRect box(metrics::Margin + (i % 3) * column, metrics::Grid + (i / 3) * LineHeight,
+                        column - metrics::Grid, LineHeight);
         painter->setPen(colours.mutedText);
         painter->drawText(box, Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(names[i]));
         painter->setPen(colours.text);

@@ -56,7 +56,6 @@ void LiveValues::release()
 
 QString LiveValues::value(const QString &name) const
 {
-    const QJsonValue value
-        = zepletInterface()->getNexoData(ValuesKey).toObject().value(name);
+    const QJsonValue value = zepletInterface()->getNexoData(ValuesKey).toObject().value(name);
     return value.isString() ? value.toString() : QString();
 }

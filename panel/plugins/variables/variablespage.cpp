@@ -22,8 +22,8 @@ namespace
 constexpr int TypeWidth = 140;
 constexpr int MarkWidth = 130;
 constexpr int LiveWidth = 150;
-constexpr VariableKind Kinds[] = {VariableKind::Integer, VariableKind::Number, VariableKind::Text,
-                                  VariableKind::Flag};
+constexpr VariableKind Kinds[]
+    = {VariableKind::Integer, VariableKind::Number, VariableKind::Text, VariableKind::Flag};
 
 QStringList flags()
 {
@@ -100,7 +100,8 @@ VariablesPage::VariablesPage(QWidget *parent)
     connect(m_table, &kit::Table::opened, this, &VariablesPage::askToChange);
     connect(m_table, &kit::Table::currentKeyChanged, this, &VariablesPage::refreshKeys);
     connect(m_live, &LiveValues::changed, this, [this] { refreshSoon(); });
-    Page::follow({QStringLiteral("tavik.project.var._list"), QStringLiteral("tavik.project.var.built"),
+    Page::follow({QStringLiteral("tavik.project.var._list"),
+                  QStringLiteral("tavik.project.var.built"),
                   QStringLiteral("tavik.project.cur_project"), QStringLiteral("brisa.r.version")});
 }
 
@@ -199,16 +200,16 @@ void VariablesPage::askForNew()
     const QComboBox *const choice
         = form->addChoice(tr("Type"), QStringLiteral("variableType"), kinds);
     const ValueField field(form);
-    const QCheckBox *const persistent
-        = form->addCheck(tr("Persistent: programs keep its changes"),
-                         QStringLiteral("variablePersistent"));
+    const QCheckBox *const persistent = form->addCheck(tr("Persistent: programs keep its changes"),
+                                                       QStringLiteral("variablePersistent"));
     const auto kind = [choice] { return Kinds[choice->currentIndex()]; };
     form->setValidation([=] {
         field.showFor(kind());
         if (name->text().trimmed().isEmpty())
             return tr("The variable needs a name.");
         if (taken.contains(name->text().trimmed()))
-            return tr("There is a variable \"%1\" already: choose another name, or change that one.")
+            return tr("There is a variable \"%1\" already: choose another name, or change that "
+                      "one.")
                 .arg(name->text().trimmed());
         QString refusal;
         field.read(kind(), &refusal);
@@ -226,8 +227,8 @@ void VariablesPage::askToChange()
     if (!m_change->isEnabled())
         return;
     const Variable variable = *chosen();
-    const QString value = variable.value.isString() ? variable.value.toString()
-                                                    : valueText(variable.value);
+    const QString value
+        = variable.value.isString() ? variable.value.toString() : valueText(variable.value);
     auto *const form = new kit::Form(this, tr("Change \"%1\"").arg(variable.name), tr("Save"));
     const ValueField field(form, value);
     field.showFor(variable.kind());
@@ -261,9 +262,10 @@ void VariablesPage::add(const QString &name, const QVariant &value, bool persist
         if (zepletInterface()->addVarData(name, value, persistent)) {
             tellDone(tr("The variable \"%1\" is there.").arg(name));
         } else if (readVariable(name).name.isEmpty()) {
-            say(Tone::Error, tr("The controller did not take \"%1\", and it was not made: the name may "
-                                "be in use there, or the value may not fit. Choose another one.")
-                                 .arg(name));
+            say(Tone::Error,
+                tr("The controller did not take \"%1\", and it was not made: the name may "
+                   "be in use there, or the value may not fit. Choose another one.")
+                    .arg(name));
         } else {
             tellUnsaved(name);
         }
@@ -281,14 +283,16 @@ void VariablesPage::change(const QString &name, const QVariant &value)
             return tellDone(tr("\"%1\" has its new value.").arg(name));
         const Variable now = readVariable(name);
         if (now.name.isEmpty())
-            say(Tone::Error, tr("The variable \"%1\" is no longer in the project, and nothing was "
-                                "changed: choose another one.")
-                                 .arg(name));
+            say(Tone::Error,
+                tr("The variable \"%1\" is no longer in the project, and nothing was "
+                   "changed: choose another one.")
+                    .arg(name));
         else if (now.value != QJsonValue::fromVariant(value))
-            say(Tone::Error, tr("The controller did not take the new value, and \"%1\" has its old one: "
-                                "a program may use it, or the value may not fit. Check both, and try "
-                                "again.")
-                                 .arg(name));
+            say(Tone::Error,
+                tr("The controller did not take the new value, and \"%1\" has its old one: "
+                   "a program may use it, or the value may not fit. Check both, and try "
+                   "again.")
+                    .arg(name));
         else
             tellUnsaved(name);
     });
@@ -303,9 +307,10 @@ void VariablesPage::remove(const QString &name)
             return tellDone(tr("\"%1\" is deleted.").arg(name));
         if (readVariable(name).name.isEmpty())
             return tellUnsaved(name);
-        say(Tone::Error, tr("The controller did not let go of \"%1\", and it stays: a program may use "
-                            "it. Stop the program, check the link, and try again.")
-                             .arg(name));
+        say(Tone::Error,
+            tr("The controller did not let go of \"%1\", and it stays: a program may use "
+               "it. Stop the program, check the link, and try again.")
+                .arg(name));
     });
 }
 
@@ -316,7 +321,8 @@ void VariablesPage::saveAgain()
         if (canBeChanged(variable.kind()))
             return change(variable.name, variable.value.toVariant());
     }
-    say(Tone::Warning, tr("There is no variable left to save: the next one that is made saves all."));
+    say(Tone::Warning,
+        tr("There is no variable left to save: the next one that is made saves all."));
 }
 
 void VariablesPage::tellDone(const QString &sentence)
@@ -328,18 +334,20 @@ void VariablesPage::tellDone(const QString &sentence)
 void VariablesPage::tellUnsaved(const QString &name)
 {
     m_unsaved = true;
-    say(Tone::Error, tr("\"%1\" is changed on the panel and in the running controller, but not saved "
-                        "there: check the network to it and the space on the panel's disk, then "
-                        "save again.")
-                         .arg(name));
+    say(Tone::Error,
+        tr("\"%1\" is changed on the panel and in the running controller, but not saved "
+           "there: check the network to it and the space on the panel's disk, then "
+           "save again.")
+            .arg(name));
 }
 
 bool VariablesPage::refuseWithoutLink()
 {
     if (zepletInterface()->getRobotConnected())
         return false;
-    say(Tone::Error, tr("There is no link to the controller, and nothing was changed: try again when "
-                        "it is connected."));
+    say(Tone::Error,
+        tr("There is no link to the controller, and nothing was changed: try again when "
+           "it is connected."));
     return true;
 }
 

@@ -9,7 +9,7 @@ namespace kit
 {
 class NoticeLine;
 class Table;
-}
+} // namespace kit
 
 /** The variables of the open project, with what the controller reports of persistent ones. */
 class VariablesPage : public kit::Page

@@ -1,8 +1,9 @@
 // Sends the robot to a point of the open project, and stops it.
+#include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
 #include <QComboBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -16,116 +17,6 @@ const QString pluginName = QStringLiteral("moves");
 const QString errorKey = QStringLiteral("move.last_error_with_setting");
 } // namespace
 
-class MovesPage : public QWidget
-{
-    Q_OBJECT
-
-public:
-    MovesPage();
-
-protected:
-    void showEvent(QShowEvent *event) override;
-
-private:
-    QPushButton *addButton(QLayout *line, const QString &text, const char *role);
-    void move(bool joint);
-    void stop();
-    void tellError(const QVariantMap &error);
-
-    QComboBox *m_points = new QComboBox;
-    QSpinBox *m_speed = new QSpinBox;
-    QLabel *m_notice = new QLabel;
-    QString m_last; ///< the point that the robot was sent to last
-};
-
-MovesPage::MovesPage()
-{
-    auto *title = new QLabel(tr("My moves"));
-    title->setProperty("role", "heading");
-    m_speed->setRange(1, 1000);
-    m_speed->setValue(50);
-    m_speed->setSuffix(tr(" mm/s"));
-    m_notice->setTextFormat(Qt::PlainText); // a name is no markup
-    m_notice->setWordWrap(true);
-    auto *line = new QHBoxLayout;
-    line->addWidget(m_points, 1);
-    line->addWidget(m_speed);
-    auto *linear = addButton(line, tr("Move straight"), "primary");
-    auto *joint = addButton(line, tr("Move by joints"), "primary");
-    connect(linear, &QPushButton::clicked, this, [this] { move(false); });
-    connect(joint, &QPushButton::clicked, this, [this] { move(true); });
-    connect(addButton(line, tr("Stop"), "danger"), &QPushButton::clicked, this, &MovesPage::stop);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 24, 24, 24);
-    layout->setSpacing(16);
-    layout->addWidget(title);
-    layout->addLayout(line);
-    layout->addWidget(m_notice);
-    layout->addStretch();
-
-    // What goes wrong on the way. The first starts the delivery, the second ends with this page.
-    zepletInterface()->connectNexoData(pluginName, errorKey, {});
-    zepletEvent()->subscribeFiltered(
-        NexoDataChange, filterByServiceKey(errorKey),
-        adaptNexoCallback([this](const QVariant &error) { tellError(error.toMap()); }), pluginName,
-        this);
-}
-
-QPushButton *MovesPage::addButton(QLayout *line, const QString &text, const char *role)
-{
-    auto *button = new QPushButton(text);
-    button->setProperty("role", role);
-    line->addWidget(button);
-    return button;
-}
-
-void MovesPage::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    m_points->clear();
-    m_points->addItems(zepletInterface()->getPointNameList());
-    m_notice->setText(m_points->count() ? tr("Choose a point and a speed. Stop ends every move.")
-                                        : tr("The open project has no points. Teach one first."));
-}
-
-void MovesPage::move(bool joint)
-{
-    const QString name = m_points->currentText();
-    if (!zepletInterface()->getRobotConnected())
-        return m_notice->setText(tr("Connect the controller first."));
-    if (!m_last.isEmpty() && zepletInterface()->checkPointMoveTo(m_last, name) < 0)
-        return m_notice->setText(tr("The robot can't go from \"%1\" to \"%2\". Choose a point "
-                                    "between them.")
-                                     .arg(m_last, name));
-    int result = 0;
-    zepletInterface()->moveToStart(result, name, m_speed->value(), joint, joint);
-    if (result == -1)
-        return m_notice->setText(tr("\"%1\" has no place. Teach it first.").arg(name));
-    if (result == -2)
-        return m_notice->setText(tr("\"%1\" has no arm configuration. Teach it again as a pose, or "
-                                    "move straight.")
-                                     .arg(name));
-    m_last = name;
-    m_notice->setText(tr("The robot was sent to \"%1\".").arg(name));
-}
-
-void MovesPage::stop()
-{
-    zepletInterface()->moveToStop();
-    m_last.clear(); // who knows where it stands now
-    m_notice->setText(zepletInterface()->getRobotConnected()
-                          ? tr("The robot was told to stop.")
-                          : tr("The controller is not connected: use the emergency stop."));
-}
-
-void MovesPage::tellError(const QVariantMap &error)
-{
-    if (error.isEmpty())
-        return; // a new move begins
-    m_last.clear();
-    m_notice->setText(tr("The robot did not get there: %1").arg(error["message"].toString()));
-}
-
 class MovesPlugin : public PluginBase
 {
     Q_OBJECT
@@ -137,12 +28,110 @@ public:
         setPluginLabel(tr("My moves"));
     }
 
-    void init() override { CreateCenterWidget(pluginName, m_page = new MovesPage); }
+    void init() override;
     void detach() override { delete m_page; }
 
 private:
-    QPointer<MovesPage> m_page;
+    void refresh();
+    void move(bool joint);
+    void stop();
+    void tellError(const QVariantMap &error);
+
+    QPointer<QWidget> m_page;
+    QComboBox *m_points = nullptr;
+    QSpinBox *m_speed = nullptr;
+    QLabel *m_notice = nullptr;
+    QString m_last; ///< the point that the robot was sent to last
 };
+
+void MovesPlugin::init()
+{
+    m_page = new QWidget;
+    auto *layout = new QGridLayout(m_page);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(16);
+    m_speed = new QSpinBox;
+    m_speed->setRange(1, 1000);
+    m_speed->setValue(50);
+    m_speed->setSuffix(tr(" mm/s"));
+    m_notice = new QLabel(tr("Choose a point and a speed. Stop ends every move."));
+    m_notice->setTextFormat(Qt::PlainText); // a name is no markup
+    m_notice->setWordWrap(true);
+    layout->addWidget(m_points = new QComboBox, 0, 0);
+    layout->addWidget(m_speed, 0, 1);
+    layout->addWidget(m_notice, 1, 0, 1, 5, Qt::AlignTop);
+    layout->setColumnStretch(0, 1);
+    layout->setRowStretch(1, 1);
+    const auto addButton = [=](const QString &text, const char *role, const auto &action) {
+        auto *button = new QPushButton(text);
+        button->setProperty("role", role);
+        layout->addWidget(button, 0, layout->count() - 1);
+        connect(button, &QPushButton::clicked, this, action);
+    };
+    addButton(tr("Move straight"), "primary", [this] { move(false); });
+    addButton(tr("Move by joints"), "primary", [this] { move(true); });
+    addButton(tr("Stop"), "danger", [this] { stop(); });
+    refresh();
+    CreateCenterWidget(pluginName, m_page);
+    connect(m("tavik.project.point._list"), &ostrel::ModuleObject::changed, m_page,
+            [this] { refresh(); });
+
+    // What goes wrong on the way. The first starts the delivery, the second ends with the page.
+    zepletInterface()->connectNexoData(pluginName, errorKey, {});
+    zepletEvent()->subscribeFiltered(
+        NexoDataChange, filterByServiceKey(errorKey),
+        adaptNexoCallback([this](const QVariant &error) { tellError(error.toMap()); }), pluginName,
+        m_page);
+}
+
+// Where the chosen point is gone, none is: the robot must not go to whichever is first now.
+void MovesPlugin::refresh()
+{
+    const QString chosen = m_points->currentText();
+    m_points->clear();
+    m_points->addItems(zepletInterface()->getPointNameList());
+    m_points->setCurrentIndex(m_points->findText(chosen));
+}
+
+void MovesPlugin::move(bool joint)
+{
+    const QString name = m_points->currentText();
+    if (name.isEmpty())
+        return m_notice->setText(tr("Choose a point. Where there is none, teach one first."));
+    if (!zepletInterface()->getRobotConnected())
+        return m_notice->setText(tr("Connect the controller first."));
+    if (!m_last.isEmpty() && zepletInterface()->checkPointMoveTo(m_last, name) < 0)
+        return m_notice->setText(
+            tr("The robot can't go from \"%1\" to \"%2\". Choose a point between them.")
+                .arg(m_last, name));
+    int result = 0;
+    zepletInterface()->moveToStart(result, name, m_speed->value(), joint, joint);
+    if (result == -1)
+        return m_notice->setText(tr("\"%1\" has no place. Teach it first.").arg(name));
+    if (result == -2)
+        return m_notice->setText(
+            tr("\"%1\" has no arm configuration. Teach it again as a pose, or move straight.")
+                .arg(name));
+    m_last = name;
+    m_notice->setText(tr("The robot was sent to \"%1\".").arg(name));
+}
+
+void MovesPlugin::stop()
+{
+    zepletInterface()->moveToStop();
+    m_last.clear(); // who knows where it stands now
+    m_notice->setText(zepletInterface()->getRobotConnected()
+                          ? tr("The robot was told to stop.")
+                          : tr("The controller is not connected: use the emergency stop."));
+}
+
+void MovesPlugin::tellError(const QVariantMap &error)
+{
+    if (error.isEmpty())
+        return; // a new move begins
+    m_last.clear();
+    m_notice->setText(tr("The robot did not get there: %1").arg(error["message"].toString()));
+}
 
 // Runs when the panel loads the library: from here on it knows the plugin by name.
 static const bool registered = [] {

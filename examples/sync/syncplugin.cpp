@@ -2,13 +2,12 @@
 #include <zeplet/zeplet.h>
 
 #include <QDir>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSaveFile>
-#include <functional>
 
 using namespace zeplet;
 
@@ -33,85 +32,6 @@ QString localDirectory()
 }
 } // namespace
 
-class SyncPage : public QWidget
-{
-    Q_OBJECT
-
-public:
-    SyncPage();
-
-private:
-    void addButton(QLayout *line, const QString &text, const std::function<void()> &action);
-    bool save();
-    void read();
-
-    QPlainTextEdit *m_note = new QPlainTextEdit;
-    QLabel *m_notice = new QLabel;
-};
-
-SyncPage::SyncPage()
-{
-    auto *title = new QLabel(tr("My note"));
-    title->setProperty("role", "heading");
-    m_note->setPlaceholderText(tr("A note for whoever works on this project next"));
-    m_notice->setText(tr("Send everything once, then the note alone."));
-    m_notice->setWordWrap(true);
-    auto *line = new QHBoxLayout;
-    line->addWidget(title, 1);
-    const auto tell = [this](bool done, const QString &success) {
-        m_notice->setText(done ? success
-                               : tr("Nothing was copied. Is the controller on, and does it have "
-                                    "this project? The log says what rsync found."));
-    };
-    addButton(line, tr("Send all"), [=] {
-        if (save())
-            tell(SyncTool::instance()->pushFile(localDirectory(), remoteDirectory(), true),
-                 tr("The controller has all notes of this panel, and no others."));
-    });
-    addButton(line, tr("Send note"), [=] {
-        const QString remoteFile = remoteDirectory() + QLatin1Char('/') + fileName;
-        if (save())
-            tell(SyncTool::instance()->pushOneFile(localDirectory() + fileName, remoteFile, true),
-                 tr("The controller has this note."));
-    });
-    addButton(line, tr("Fetch all"), [=] {
-        tell(SyncTool::instance()->pullFile(remoteDirectory(), localDirectory(), true, true),
-             tr("This panel has all notes of the controller, and no others."));
-        read();
-    });
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 24, 24, 24);
-    layout->setSpacing(16);
-    layout->addLayout(line);
-    layout->addWidget(m_note, 1);
-    layout->addWidget(m_notice);
-    read();
-}
-
-void SyncPage::addButton(QLayout *line, const QString &text, const std::function<void()> &action)
-{
-    auto *button = new QPushButton(text);
-    line->addWidget(button);
-    connect(button, &QPushButton::clicked, this, action);
-}
-
-bool SyncPage::save()
-{
-    QSaveFile file(localDirectory() + fileName);
-    if (QDir().mkpath(localDirectory()) && file.open(QIODevice::WriteOnly)
-        && file.write(m_note->toPlainText().toUtf8()) >= 0 && file.commit())
-        return true;
-    m_notice->setText(tr("The note can't be saved on the panel: %1").arg(file.errorString()));
-    return false;
-}
-
-void SyncPage::read()
-{
-    QFile file(localDirectory() + fileName);
-    if (file.open(QIODevice::ReadOnly))
-        m_note->setPlainText(QString::fromUtf8(file.readAll()));
-}
-
 class SyncPlugin : public PluginBase
 {
     Q_OBJECT
@@ -123,12 +43,80 @@ public:
         setPluginLabel(tr("My note"));
     }
 
-    void init() override { CreateCenterWidget(pluginName, m_page = new SyncPage); }
+    void init() override;
     void detach() override { delete m_page; }
 
 private:
-    QPointer<SyncPage> m_page;
+    bool tell(bool done, const QString &success);
+    bool save();
+    void read();
+
+    QPointer<QWidget> m_page;
+    QPlainTextEdit *m_note = nullptr;
+    QLabel *m_notice = nullptr;
 };
+
+void SyncPlugin::init()
+{
+    m_page = new QWidget;
+    auto *layout = new QGridLayout(m_page);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(16);
+    m_note = new QPlainTextEdit;
+    m_note->setPlaceholderText(tr("A note for whoever works on this project next"));
+    m_notice = new QLabel(tr("Send everything once, then the note alone."));
+    m_notice->setWordWrap(true);
+    layout->addWidget(m_note, 1, 0, 1, 3);
+    layout->addWidget(m_notice, 2, 0, 1, 3);
+    const auto addButton = [=](int column, const QString &text, const auto &action) {
+        auto *button = new QPushButton(text);
+        layout->addWidget(button, 0, column);
+        connect(button, &QPushButton::clicked, this, action);
+    };
+    addButton(0, tr("Send all"), [this] {
+        if (save())
+            tell(SyncTool::instance()->pushFile(localDirectory(), remoteDirectory(), true),
+                 tr("The controller has all notes of this panel, and no others."));
+    });
+    addButton(1, tr("Send note"), [this] {
+        const QString remoteFile = remoteDirectory() + QLatin1Char('/') + fileName;
+        if (save())
+            tell(SyncTool::instance()->pushOneFile(localDirectory() + fileName, remoteFile, true),
+                 tr("The controller has this note."));
+    });
+    addButton(2, tr("Fetch all"), [this] {
+        if (tell(SyncTool::instance()->pullFile(remoteDirectory(), localDirectory(), true, true),
+                 tr("This panel has all notes of the controller, and no others.")))
+            read();
+    });
+    read();
+    CreateCenterWidget(pluginName, m_page);
+}
+
+bool SyncPlugin::tell(bool done, const QString &success)
+{
+    m_notice->setText(done ? success
+                           : tr("Not everything was copied. Is the controller on, and does it have "
+                                "this project? The log says what rsync found."));
+    return done;
+}
+
+bool SyncPlugin::save()
+{
+    QSaveFile file(localDirectory() + fileName);
+    if (QDir().mkpath(localDirectory()) && file.open(QIODevice::WriteOnly)
+        && file.write(m_note->toPlainText().toUtf8()) >= 0 && file.commit())
+        return true;
+    m_notice->setText(tr("The note can't be saved on the panel: %1").arg(file.errorString()));
+    return false;
+}
+
+void SyncPlugin::read()
+{
+    QFile file(localDirectory() + fileName);
+    if (file.open(QIODevice::ReadOnly))
+        m_note->setPlainText(QString::fromUtf8(file.readAll()));
+}
 
 // Runs when the panel loads the library: from here on it knows the plugin by name.
 static const bool registered = [] {

@@ -1,6 +1,7 @@
 #include "openproject.h"
 #include "testcolumns.h"
 
+#include <QSignalSpy>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -102,7 +103,8 @@ private Q_SLOTS:
         row("joints nowhere", joints("x", {1}), jointName + "point not found, name=x");
         row("joints, no value", joints("bare", {1}),
             jointName + "value index not found, name=bare index=[0][0][0]");
-        row("joint is no number", joints("P1", {std::nan("")}), jointName + infinity);
+        row("joint is no number", joints("P1", {0, 0, 0, 0, 0, 0, std::nan("")}),
+            jointName + infinity);
         row("empty JSON", object("P1", {}), "");
         row("JSON nowhere", object("x", {{"a", 1}}), "");
         row("infinite JSON", object("P1", {{"a", QJsonArray {QJsonValue(infinite)}}}), unfit);
@@ -218,10 +220,26 @@ private Q_SLOTS:
         const QString line = log.ofLevel("S").first();
         QCOMPARE(line.left(15), QString("hotRemovePoint:"));
         QCOMPARE(json(line.mid(15).toUtf8()), removal);
+        QVERIFY(manager()->setPointJointData("P1", {1}, ""));
+        QCOMPARE(m_project->list()->getStr("#0.property", ""), QString("joint"));
         QVERIFY(manager()->setPointCartData("P1", pose, ""));
         m_project->list()->childAt(0)->set(nullptr, "name", "a.b", true);
         QVERIFY(hotUpdatePersPointElement(m_project->list()->childAt(0), " [0]"));
         QCOMPARE(sent()["variables"][0]["type"], QJsonValue("robtarget"));
+    }
+
+    void whoWatchesHearsOfAnEdit()
+    {
+        QSignalSpy record(m_project->list()->childAt(1), &ostrel::ModuleObject::changed);
+        QSignalSpy list(m_project->list(), &ostrel::ModuleObject::changed);
+        LogCapture log;
+        QVERIFY(manager()->setPointElementJson("Array", "[1]", {{"b", 2}}));
+        QVERIFY(manager()->ensurePointElement("Array", "[2]"));
+        QVERIFY(manager()->removePointElement("Array", "[2]"));
+        QCOMPARE(record.size(), 3);
+        QCOMPARE(list.size(), 0);
+        QVERIFY(manager()->removePoint("Bare"));
+        QCOMPARE(list.size(), 1);
     }
 
     void aFailingStepEndsAnEdit_data()
@@ -247,8 +265,10 @@ private Q_SLOTS:
         QFETCH(bool, written);
         m_project->setAnswer(answer);
         m_project->setRsync(rsync);
+        QSignalSpy banners(brisa::ManagerHelper::instance(), &brisa::ManagerHelper::logThrown);
         LogCapture log;
         QCOMPARE(edit(), errors.isEmpty());
+        QVERIFY(banners.isEmpty());
         QCOMPARE(log.ofLevel("E").mid(log.ofLevel("E").size() - errors.size()), errors);
         QCOMPARE(!m_project->file().isEmpty(), written);
         QCOMPARE(m_project->takePushes().size(), int(written));
@@ -260,8 +280,10 @@ private Q_SLOTS:
     void whatCannotBeWrittenIsNotPushed()
     {
         StandIns::touch("LOCALHOST");
-        for (const char *project : {"LOCALHOST/demo", "LOCALHOST/.."}) {
+        for (const char *project : {"LOCALHOST/demo", "LOCALHOST/..", "no workspace"}) {
             m("tavik.project.cur_project")->set(nullptr, project);
+            if (project == QLatin1String("no workspace")) // a path at the root is none of ours
+                m_project->settings()->set("workspace", "");
             LogCapture log;
             QVERIFY(!manager()->setPointCartData("P1", pose, ""));
             QVERIFY(log.ofLevel("E").contains("write point.json failed"));
@@ -320,7 +342,7 @@ private Q_SLOTS:
     {
         triggerPointHotUpdate("edit", -1);
         QCOMPARE(m_project->announced(), QString());
-        triggerPointHotUpdate("edit", 4);
+        m("tavik.project.point.hot_update.points")->set(nullptr, QVariantList {7, 8});
         triggerPointHotUpdate("add", 2);
         QCOMPARE(m_project->announced(), QString("add 2"));
     }

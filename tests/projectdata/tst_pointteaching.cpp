@@ -1,5 +1,6 @@
 #include "openproject.h"
 
+#include <QSignalSpy>
 #include <memory>
 
 using namespace zeplet;
@@ -75,9 +76,12 @@ private Q_SLOTS:
 
     void anArrayPointIsTaughtInPlace()
     {
+        QSignalSpy record(m_project->list()->childAt(2), &ostrel::ModuleObject::changed);
         LogCapture log;
         QVERIFY(teach("ARRAY", false, "[1]"));
         QVERIFY(teach("array", true, "a.b"));
+        QCOMPARE(record.size(), 2);
+        QCOMPARE(m_project->list()->getStr("#2.property", ""), QString("joint"));
         QCOMPARE(m_project->element("Array", "[1][0][0]"), json(cartElement));
         QCOMPARE(m_project->element("Array", "a.b"), json(jointElement));
         QCOMPARE(zepletInterface()->getPointObjDataByName("Array")["own"], QJsonValue(1));

@@ -22,7 +22,8 @@ const char *const variables = R"({"built": true,
     {"id": 1, "name": "a.b", "type": "QString", "value": {"[0][0][0]": "x"}, "pers": true},
     {"id": 2, "name": "camera", "type": "socketconn", "value": {"[0][0][0]": 3}},
     {"id": 3, "name": "scale", "type": "serials", "value": {"[0][0][0]": 4}},
-    {"id": 4, "name": "bare", "type": "double", "pers": true, "description": "old"}]})";
+    {"id": 4, "name": "bare", "type": "double", "pers": true, "description": "old"},
+    {"id": 5, "name": "server", "type": "socketserver"}]})";
 
 QJsonArray list()
 {
@@ -65,7 +66,8 @@ private Q_SLOTS:
     void queries()
     {
         InterfaceManager &api = *zepletInterface();
-        QCOMPARE(api.getVarDataList(""), QStringList({"count", "a.b", "camera", "scale", "bare"}));
+        QCOMPARE(api.getVarDataList(""),
+                 QStringList({"count", "a.b", "camera", "scale", "bare", "server"}));
         QCOMPARE(api.getVarDataList("int"), QStringList("count"));
         QCOMPARE(api.getVarDataList("Int"), QStringList());
         QCOMPARE(api.getVarObjDataByName("a.b"), list().at(1).toObject());
@@ -78,7 +80,7 @@ private Q_SLOTS:
     {
         const auto row = testcolumns<Operation, QString, QString, QString>("operation", "request",
                                                                            "entries", "names");
-        const QString before = "count,a.b,camera,scale,bare";
+        const QString before = "count,a.b,camera,scale,bare,server";
         const auto add = [](auto name, auto value) {
             return [=](auto &api) { return api.addVarData(name, value, true); };
         };
@@ -95,10 +97,11 @@ private Q_SLOTS:
             entry("count", "int", "'text'", "'old_name':'count',"), before);
         row("update without a value", update("bare", 1.5), "edit",
             entry("bare", "double", "1.5", "'old_name':'bare',"), before);
-        row("delete two of four", remove({"a.b", "camera", "none", "count"}), "remove",
-            entry("count", "int", "1") + ',' + entry("a.b", "QString", "'x'"), "camera,scale,bare");
+        row("delete two of five", remove({"a.b", "camera", "none", "server", "count"}), "remove",
+            entry("count", "int", "1") + ',' + entry("a.b", "QString", "'x'"),
+            "camera,scale,bare,server");
         row("delete one", remove({"count"}), "remove", entry("count", "int", "1"),
-            "a.b,camera,scale,bare");
+            "a.b,camera,scale,bare,server");
     }
 
     void changes()
@@ -110,7 +113,9 @@ private Q_SLOTS:
         InterfaceManager &api = *zepletInterface();
         LogCapture log;
         QSignalSpy listChanges(m("tavik.project.var._list"), &ostrel::ModuleObject::changed);
+        QSignalSpy built(m("tavik.project.var.built"), &ostrel::ModuleObject::changed);
         QVERIFY(operation(api));
+        QCOMPARE(built.size(), request == "add" ? 1 : 0);
         QCOMPARE(listChanges.size(), request == "edit" ? 0 : 1);
         const QString sent = q("{'operator':'") + request + q("','variables':[") + entries + "]}";
         QCOMPARE(m_sent->take(), QStringList("project.variable " + sent));
@@ -203,7 +208,9 @@ private Q_SLOTS:
             m_fake.hub.refuse("hub.command", "no");
         else
             m_project->setAnswer(json(q(answer).toUtf8()));
+        QSignalSpy listChanges(m("tavik.project.var._list"), &ostrel::ModuleObject::changed);
         QVERIFY(!zepletInterface()->addVarData("n", 1, true));
+        QCOMPARE(listChanges.size(), 2); // it came and it went
         QVERIFY(isUntouched());
         QVERIFY(!zepletInterface()->updateVarData("count", 2));
         QVERIFY(!zepletInterface()->updateVarData("bare", 2));
@@ -234,7 +241,7 @@ private Q_SLOTS:
         QVERIFY(!zepletInterface()->addVarData("n", 1, true));
         QVERIFY(!zepletInterface()->updateVarData("count", 2));
         QVERIFY(!zepletInterface()->delVarData("a.b"));
-        const QStringList names {"count", "camera", "scale", "bare", "n"};
+        const QStringList names {"count", "camera", "scale", "bare", "server", "n"};
         QCOMPARE(zepletInterface()->getVarDataList(""), names);
         QCOMPARE(list().at(0)["value"], json(q("{'[0][0][0]': 2}").toUtf8()));
         const QStringList lines = log.ofLevel("E");

@@ -24,7 +24,7 @@ void CheckScript::start(const QList<CheckStep> &steps)
 
 void CheckScript::report(bool passed, int number, const QString &text)
 {
-    std::printf("%s %2d  %s\n", passed ? "ok    " : "FAILED", number, qPrintable(text));
+    std::printf("%s %3d  %s\n", passed ? "ok    " : "FAILED", number, qPrintable(text));
     std::fflush(stdout);
 }
 

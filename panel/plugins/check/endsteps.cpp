@@ -2,10 +2,14 @@
 
 #include "projectfiles.h"
 
+#include <kest/centerwidget.h>
 #include <zeplet/zeplet.h>
 
 #include <QDate>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPixmap>
 
 using namespace zeplet;
 
@@ -16,6 +20,15 @@ bool hasLogFile(const QString &base)
 {
     const QString date = QDate::currentDate().toString(QStringLiteral("yyyyMMdd"));
     return QFileInfo(QStringLiteral("./log/%1_%2.log").arg(base, date)).size() > 0;
+}
+
+/** The panel's own picture of its end shows no project any more. */
+QString savePicture()
+{
+    const QString file = QStringLiteral("check-points.png");
+    return instantiatedCenterWidget()->window()->grab().save(file)
+        ? QString()
+        : file + QStringLiteral(" can't be saved");
 }
 
 QString removeOpenProject()
@@ -37,6 +50,15 @@ QString removeOpenProject()
 CheckSteps endSteps(CheckSession *session)
 {
     return {
+        {QStringLiteral("the arm is seen again"),
+         {},
+         [] {
+             return !zepletInterface()
+                         ->getNexoData(QStringLiteral("motion.skeleton"))
+                         .toArray()
+                         .isEmpty();
+         }},
+        atOnce(QStringLiteral("picture of the points saved: check-points.png"), savePicture),
         atOnce(QStringLiteral("project removed"), removeOpenProject),
         answerStep(session, QStringLiteral("the controller forgot its task"),
                    QStringLiteral("project get"),

@@ -2,6 +2,8 @@
 
 #include "projectfiles.h"
 
+#include <kest/bmodule.h>
+#include <kest/centerwidget.h>
 #include <zeplet/zeplet.h>
 
 #include <QFileInfo>
@@ -47,6 +49,15 @@ QString create()
         : QStringLiteral("it was made twice");
 }
 
+/** The page then watches all that follows. */
+QString showPoints()
+{
+    const QString page = mName(QStringLiteral("zeplet"), QStringLiteral("page-points"));
+    return instantiatedCenterWidget()->switchTo(nullptr, page)
+        ? QString()
+        : QStringLiteral("there is no page ") + page;
+}
+
 } // namespace
 
 CheckSteps projectSteps(CheckSession *session)
@@ -54,6 +65,7 @@ CheckSteps projectSteps(CheckSession *session)
     return {
         atOnce(QStringLiteral("no project left by an earlier check"), removeLeftover),
         atOnce(QStringLiteral("project created and opened"), create),
+        atOnce(QStringLiteral("page of the points shown"), showPoints),
         answerStep(session, QStringLiteral("project open on the controller, with a directory"),
                    QStringLiteral("project get"),
                    [](const QJsonValue &projects) {

@@ -13,6 +13,12 @@ inline QJsonValue json(const QByteArray &text)
     return QJsonDocument::fromJson('[' + text + ']').array().first();
 }
 
+/** Text with double quotes for single ones: moc stumbles over raw strings in a class. */
+inline QString q(QString text)
+{
+    return text.replace('\'', '"');
+}
+
 /** The open project LOCALHOST/demo with a disk and an rsync of its own. rsync keeps
  *  what it was told to push as "pushed". */
 class OpenProject

@@ -39,12 +39,6 @@ QString request(const QString &command, const QString &point, const QString &spe
     return command + R"( {"point":{)" + point + R"(},"traj":{"speed":)" + speed + "}}";
 }
 
-// Raw strings with quotes don't go into a class with Q_OBJECT.
-QString q(QString text)
-{
-    return text.replace('\'', '"');
-}
-
 } // namespace
 
 class TestMotion : public QObject

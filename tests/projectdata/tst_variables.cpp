@@ -33,12 +33,6 @@ QJsonArray list()
 const double nan = std::numeric_limits<double>::quiet_NaN();
 const double infinite = std::numeric_limits<double>::infinity();
 
-// Raw strings with quotes don't go into a class with Q_OBJECT.
-QString q(QString text)
-{
-    return text.replace('\'', '"');
-}
-
 /** What the controller is told of a persistent variable. */
 QString entry(const QString &name, const QString &type, const QString &value,
               const QString &oldName = QString())
@@ -140,16 +134,16 @@ private Q_SLOTS:
 
     void refusals_data()
     {
-        const auto row = testcolumns<Operation, QString>("operation", "problem");
-        const auto add = [&](const QVariant &value, const QString &name, const QString &problem) {
-            row(
-                qPrintable(problem), [=](auto &api) { return api.addVarData(name, value, true); },
-                "addVarData: " + problem);
+        const auto row = testcolumns<QString, Operation>("problem", "operation");
+        const auto add = [&](const QVariant &value, const QString &name, const QString &why) {
+            const QString problem = "addVarData: " + why;
+            row(qPrintable(problem), problem,
+                [=](auto &api) { return api.addVarData(name, value, true); });
         };
         const auto update = [&](const QVariant &value, const QString &name, const QString &why) {
-            row(
-                qPrintable("update: " + why),
-                [=](auto &api) { return api.updateVarData(name, value); }, "updateVarData: " + why);
+            const QString problem = "updateVarData: " + why;
+            row(qPrintable(problem), problem,
+                [=](auto &api) { return api.updateVarData(name, value); });
         };
         QVariant deep;
         for (int level = 0; level < 100; ++level)
@@ -162,10 +156,8 @@ private Q_SLOTS:
         update(1, "Count", "variable not found:Count");
         update(1, "scale", "unsupported type:serials");
         update(QVariantList {1, infinite}, "count", "value is not finite:count");
-        row(
-            "delete a connection", [](auto &api) { return api.delVarData("camera"); }, "");
-        row(
-            "delete nothing", [](auto &api) { return api.delVarData(QStringList()); }, "");
+        row("delete a connection", "", [](auto &api) { return api.delVarData("camera"); });
+        row("delete nothing", "", [](auto &api) { return api.delVarData(QStringList()); });
     }
 
     void refusals()

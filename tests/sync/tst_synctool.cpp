@@ -234,30 +234,23 @@ private Q_SLOTS:
 
     void nothingStartsWhereItMustNot_data()
     {
-        const auto row = testcolumns<bool, Operation, QString>("ready", "operation", "banner");
+        const auto row = testcolumns<bool, QString, Operation>("ready", "banner", "operation");
+        const QString cannot = "Cannot create path: ";
         SyncTool *const tool = SyncTool::instance();
-        row("push, not ready", false, pushDirectory, "");
-        row(
-            "pull, not ready", false, [] { return pullDirectory(true); }, "");
-        row(
-            "push one, not ready", false, [] { return pushOne(); }, "");
-        row(
-            "push from below a file", true, [=] { return tool->pushFile("mark/%1", "hmi", false); },
-            "Cannot create path: mark/%1");
-        row(
-            "pull into a file", true, [=] { return tool->pullFile("hmi", "mark", false, false); },
-            "Cannot create path: mark");
-        row(
-            "push the working directory", true, [=] { return tool->pushFile("", "hmi", true); },
-            "Cannot create path: ");
-        row(
-            "pull from nowhere", true, [=] { return tool->pullFile("", "dir", false, true); },
-            failed);
-        row(
-            "push no file", true, [] { return pushOne(""); }, failed);
-        row(
-            "push half a name", true, [] { return pushOne(QString("a%1b").arg(QChar(0))); },
-            failed);
+        row("push, not ready", false, "", pushDirectory);
+        row("pull, not ready", false, "", [] { return pullDirectory(true); });
+        row("push one, not ready", false, "", [] { return pushOne(); });
+        row("push from below a file", true, cannot + "mark/%1",
+            [=] { return tool->pushFile("mark/%1", "hmi", false); });
+        row("pull into a file", true, cannot + "mark",
+            [=] { return tool->pullFile("hmi", "mark", false, false); });
+        row("push the working directory", true, cannot,
+            [=] { return tool->pushFile("", "hmi", true); });
+        row("pull from nowhere", true, failed,
+            [=] { return tool->pullFile("", "dir", false, true); });
+        row("push no file", true, failed, [] { return pushOne(""); });
+        row("push half a name", true, failed,
+            [] { return pushOne(QString("a%1b").arg(QChar(0))); });
     }
 
     void nothingStartsWhereItMustNot()

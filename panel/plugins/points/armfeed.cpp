@@ -79,7 +79,9 @@ QString ArmFeed::moveError() const
     const QJsonValue error = zepletInterface()->getNexoData(ErrorKey);
     if (error.isNull() || error.isUndefined() || error == QJsonValue(QJsonObject()))
         return QString();
-    const QString message = error[QLatin1String("message")].toString(error.toString());
+    QString message = error[QLatin1String("message")].toString(error.toString()).trimmed();
+    while (message.endsWith('.'))
+        message.chop(1);
     return message.isEmpty()
         ? tr("error %1").arg(error[QLatin1String("error")].toVariant().toString())
         : message;

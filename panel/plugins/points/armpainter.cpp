@@ -19,6 +19,7 @@ constexpr float GridStep = 100; // mm
 constexpr int GridLines = 12; // to each side of the base
 constexpr int StrongLine = 5; // each fifth line stands out
 constexpr double BaseWidth = 130; // mm
+constexpr float BaseRound = 60; // mm
 constexpr double WristWidth = 64; // mm
 constexpr float ToolAxis = 130; // mm
 constexpr double LabelPadding = 7;
@@ -146,8 +147,10 @@ void ArmPainter::drawArm(const QVector<QVector3D> &skeleton, const QVector<Place
     QVector<Part> parts;
     const int links = skeleton.size() - 1;
     for (int i = 0; i < links; ++i) {
-        const QVector3D from = skeleton.at(i);
+        QVector3D from = skeleton.at(i);
         const QVector3D to = skeleton.at(i + 1);
+        if (i == 0) // its round end stands on the floor
+            from += (to - from).normalized() * qMin(BaseRound, (to - from).length() / 2);
         const double near = m_camera.depth((from + to) / 2);
         if ((to - from).length() > 1)
             parts.append({near, [=] { drawLink(from, to, width(i, links), width(i + 1, links)); }});
@@ -368,11 +371,7 @@ void ArmPainter::drawEmpty(const QString &title, const QString &hint)
     const QRect box = m_area.adjusted(metrics::Margin, 0, -metrics::Margin, 0);
     int y = box.center().y() - icon;
     const qreal ratio = m_painter->device()->devicePixelRatioF();
-    const QRectF ground(box.center().x() - icon, y - metrics::Margin, 2 * icon,
-                        icon + 2 * metrics::Margin);
-    m_painter->setPen(Qt::NoPen);
-    m_painter->setBrush(colours.surface);
-    m_painter->drawEllipse(ground);
+    m_painter->fillRect(m_area, faded(colours.surface, 0.75)); // the floor is only hinted at
     m_painter->drawPixmap(box.center().x() - icon / 2, y,
                           brisa::glyphPixmap(brisa::Glyph::Arm, colours.mutedText, icon, ratio));
     y += icon + 2 * metrics::Margin;

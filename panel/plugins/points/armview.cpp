@@ -144,10 +144,10 @@ void ArmView::turn()
     update();
 }
 
-/** What is left below the choice of the view. */
+/** Where the cell is shown; only its highest parts reach between the tabs. */
 QRectF ArmView::stage() const
 {
-    return QRectF(rect()).adjusted(metrics::Margin, m_views->height(), -metrics::Margin,
+    return QRectF(rect()).adjusted(metrics::Margin, 4 * metrics::Grid, -metrics::Margin,
                                    -5 * metrics::Grid);
 }
 

@@ -96,8 +96,8 @@ Outcome noPosition(const QString &name)
 // The property follows what is written by value.
 bool changeKind(const Point &point, const QString &index, bool joint)
 {
-    const Element *const found
-        = pointOf(zepletInterface()->getPointObjDataByName(point.name)).element(index);
+    const Point now = pointOf(zepletInterface()->getPointObjDataByName(point.name));
+    const Element *const found = now.element(index);
     if (!found)
         return false;
     return joint ? zepletInterface()->setPointJointData(point.name, found->joints, index)

@@ -27,18 +27,21 @@ constexpr int ElementsWidth = 92;
 constexpr int ListShare = 55;
 constexpr int ArmShare = 45;
 constexpr int MostMarks = 500;
+constexpr float Farthest = 4000; // mm: one place on the moon would make the arm a dot
 
 /** The tool and the work object that all elements were taught in. */
 QString frames(const Point &point)
 {
     QStringList seen;
+    bool hasValues = false;
     for (const Element &element : point.elements) {
+        hasValues |= !element.pose.isEmpty() || !element.joints.isEmpty();
         if (!element.tool.isEmpty())
             seen.append(element.tool + QStringLiteral(" · ") + element.wobj);
     }
     seen.removeDuplicates();
     if (seen.isEmpty())
-        return PointsPage::tr("Not taught yet");
+        return hasValues ? PointsPage::tr("Entered by hand") : PointsPage::tr("Not taught yet");
     return seen.size() == 1 ? seen.first() : PointsPage::tr("Several tools or work objects");
 }
 
@@ -76,6 +79,11 @@ QString valuesOf(const Point &point, const Element &element)
     return PointsPage::tr("No position yet: teach it.");
 }
 
+QVector3D placeOf(const Element &element)
+{
+    return {float(element.pose.at(0)), float(element.pose.at(1)), float(element.pose.at(2))};
+}
+
 bool isInBase(const Element &element)
 {
     return element.wobj.isEmpty() || element.wobj == QLatin1String("wobj0");
@@ -102,6 +110,8 @@ PointsPage::PointsPage(QWidget *parent)
     connect(m_save, &QPushButton::clicked, this,
             [this] { edit(tr("Saving the points"), pointedits::save); });
     connect(m_feed, &ArmFeed::changed, this, &PointsPage::followArm);
+    connect(brisa::ThemeManager::instance(), &brisa::ThemeManager::themeChanged, this,
+            &PointsPage::refreshChosen);
     follow({QStringLiteral("tavik.project.point._list"),
             QStringLiteral("tavik.project.point.hot_update.operate"),
             QStringLiteral("tavik.project.cur_project"), QStringLiteral("tavik.toolpage.tool"),
@@ -255,19 +265,21 @@ void PointsPage::refreshMarks()
     QVector<PlaceMark> marks;
     int joints = 0;
     int elsewhere = 0;
+    int far = 0;
     for (const Point &each : qAsConst(m_points)) {
         joints += each.joint ? 1 : 0;
         for (const Element &one : each.elements) {
             if (each.joint || one.pose.isEmpty())
                 continue;
             const bool isChosen = &each == point && &one == element;
+            const QString label
+                = each.elements.size() > 1 ? each.name + ' ' + one.index : each.name;
             if (!isInBase(one))
                 ++elsewhere;
+            else if (!(placeOf(one).length() < Farthest))
+                ++far;
             else if (isChosen || marks.size() < MostMarks)
-                marks.append(
-                    {each.elements.size() > 1 ? each.name + ' ' + one.index : each.name,
-                     QVector3D(float(one.pose.at(0)), float(one.pose.at(1)), float(one.pose.at(2))),
-                     isChosen});
+                marks.append({label, placeOf(one), isChosen});
         }
     }
     QStringList left;
@@ -275,6 +287,8 @@ void PointsPage::refreshMarks()
         left.append(tr("joint targets: %1").arg(joints));
     if (elsewhere > 0)
         left.append(tr("in other work objects: %1").arg(elsewhere));
+    if (far > 0)
+        left.append(tr("too far away: %1").arg(far));
     m_arm->setMarks(marks,
                     left.isEmpty() ? QString()
                                    : tr("Not drawn: %1").arg(left.join(QStringLiteral(", "))));

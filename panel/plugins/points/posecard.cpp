@@ -20,7 +20,8 @@ constexpr double NearLimit = 0.05; // of the axis' range
 
 QString number(double value)
 {
-    return QLocale::c().toString(value, 'f', 1);
+    const bool none = qAbs(value) < 0.05; // no "-0.0"
+    return QLocale::c().toString(none ? 0.0 : value, 'f', 1);
 }
 
 } // namespace

@@ -221,9 +221,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("sentence");
         QTest::addColumn<QString>("shown"); // as its value; null: it is not there
-        QTest::newRow("made") << "batch size" << "is there" << "17";
-        QTest::newRow("refused") << "refused one" << "did not take" << QString();
-        QTest::newRow("unsaved") << "unsaved" << "save again" << "17";
+        QTest::newRow("made") << "batch size"
+                              << "is there"
+                              << "17";
+        QTest::newRow("refused") << "refused one"
+                                 << "did not take" << QString();
+        QTest::newRow("unsaved") << "unsaved"
+                                 << "save again"
+                                 << "17";
     }
 
     void variables()
@@ -288,12 +293,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("theme");
         const QList<QPair<QString, QString>> states {
-            {"points", "chosen"},   {"points", "teaching"},    {"points", "values"},
-            {"points", "joints"},   {"points", "index"},       {"points", "side"},
-            {"points", "top"},      {"points", "refused"},     {"points", "long"},
-            {"points", "offline"},  {"variables", "list"},     {"variables", "form"},
+            {"points", "chosen"},    {"points", "teaching"},   {"points", "values"},
+            {"points", "joints"},    {"points", "index"},      {"points", "side"},
+            {"points", "top"},       {"points", "refused"},    {"points", "long"},
+            {"points", "offline"},   {"variables", "list"},    {"variables", "form"},
             {"variables", "delete"}, {"variables", "offline"}, {"points", "moving"},
-            {"points", "empty"},    {"variables", "empty"}};
+            {"points", "empty"},     {"variables", "empty"}};
         for (const auto &[page, state] : states) {
             for (const char *theme : {"light", "dark"})
                 QTest::addRow("%s-%s-%s", qPrintable(page), qPrintable(state), theme)
@@ -382,8 +387,10 @@ private:
         QCOMPARE(zepletInterface()->createProject("looks", "", true), 0);
         QTRY_VERIFY(QDir(disk()).exists("hmi/looks"));
         const QVector<QPair<QString, QVector<double>>> points {
-            {"pick", {620, -180, 220, 180, 0, 0}},   {"above_pick", {620, -180, 480, 180, 0, 0}},
-            {"place", {480, 420, 180, 180, 0, 0}},   {"camera", {300, -520, 640, 180, 0, 45}},
+            {"pick", {620, -180, 220, 180, 0, 0}},
+            {"above_pick", {620, -180, 480, 180, 0, 0}},
+            {"place", {480, 420, 180, 180, 0, 0}},
+            {"camera", {300, -520, 640, 180, 0, 45}},
             {cjk, {250, 600, 320, 180, 0, 0}}};
         zepletInterface()->createPoint("home", true, false);
         zepletInterface()->setPointJointData("home", {0, -10, 10, 0, 90, 0}, "");
@@ -403,8 +410,8 @@ private:
         if (!m_panel.tap("points", rows.value(state, "pick")))
             m_panel.tap("variables", "cycle_time");
         static const QHash<QString, QString> buttons {
-            {"teaching", "newPoint"}, {"values", "editPoint"},   {"joints", "editPoint"},
-            {"index", "addElement"},  {"form", "newVariable"},   {"delete", "deleteVariable"}};
+            {"teaching", "newPoint"}, {"values", "editPoint"}, {"joints", "editPoint"},
+            {"index", "addElement"},  {"form", "newVariable"}, {"delete", "deleteVariable"}};
         if (buttons.contains(state))
             QVERIFY(m_panel.click(buttons.value(state)));
         if (state == "side" || state == "top")

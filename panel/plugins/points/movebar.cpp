@@ -200,12 +200,12 @@ void MoveBar::stop()
                        "moves, use the emergency stop."));
         return;
     }
-    if (m_feed->state().moving)
-        return;
+    if (m_phase == Resting)
+        return m_page->say(Tone::Plain, tr("The robot was told to stop."));
+    // It may have begun to move without having said so yet.
     m_patience.stop();
-    m_phase = Resting;
-    m_page->say(Tone::Plain, tr("The robot was told to stop; it stands still."));
-    refresh();
+    if (!m_feed->state().moving)
+        m_settle.start(SettleTime);
 }
 
 void MoveBar::follow()
@@ -260,7 +260,7 @@ void MoveBar::checkStarted()
 
 void MoveBar::tellEnd()
 {
-    if (m_phase != Moving)
+    if (m_phase == Resting || m_feed->state().moving)
         return;
     m_phase = Resting;
     if (m_stopped)

@@ -77,6 +77,7 @@ private Q_SLOTS:
         for (int type = 1; type <= 6; ++type)
             catalogue.insert(QString("s.%1").arg(type), typed(type));
         catalogue.insert("#1", typed(1));
+        catalogue.insert("untyped", named("untyped"));
         fill("tavik.robot.io.signal_detail", catalogue);
         auto *manager = zepletInterface();
         QCOMPARE(manager->getIOByType("DI"), QStringList({"#1", "s.1"}));
@@ -92,8 +93,8 @@ private Q_SLOTS:
 
     void writes_data()
     {
-        const auto row
-            = testcolumns<QString, QString, bool, QString>("name", "type", "simulated", "refusal");
+        const auto row = testcolumns<QString, QString, QVariant, QString>("name", "type",
+                                                                          "simulated", "refusal");
         const QString system = "System IO cannot be simulated.";
         const QString simulation = "DI Signal can only be changed in simulation mode.";
         row("output", "x.1", "DO", false, "");
@@ -101,6 +102,7 @@ private Q_SLOTS:
         row("input that is a system output", "out.1", "DI", true, system);
         row("part of a system name", "in", "DO", false, "");
         row("input", "x.1", "DI", false, simulation);
+        row("input, mode unknown", "x.1", "DI", QVariant(), simulation);
         row("simulated input", "x.1", "DI", true, "");
         row("group of a system name", "in.1", "GO", false, "");
         row("unknown type", "in.1", "di", false, "");
@@ -110,7 +112,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QString, type);
-        QFETCH(bool, simulated);
+        QFETCH(QVariant, simulated);
         QFETCH(QString, refusal);
         fill("tavik.robot.sysytem_io",
              QJsonObject {{"input_system_io", QJsonArray {QJsonObject {{"signal", "in.1"}}}},

@@ -55,7 +55,8 @@ public:
 
     bool send(const QLatin1String &method, const QString &key, const QJsonObject &params,
               const Done &done = {});
-    void sendSet(const QString &key, const QString &subKey, const QJsonValue &value);
+    bool sendSet(const QString &key, const QString &subKey, const QJsonValue &value,
+                 const Done &done = {});
     ostrel::ModuleObject *exec(const QLatin1String &method, const QString &key,
                                const QJsonObject &params);
     void sendWatch(const QString &key, bool on);
@@ -138,6 +139,12 @@ void Nexo::set(QObject *origin, const QString &key, ostrel::ModuleObject *node)
     d->sendSet(key, QString(), toJson(node));
 }
 
+bool Nexo::set(QObject *origin, const QString &key, const QJsonValue &value, const Done &done)
+{
+    Q_UNUSED(origin)
+    return d->sendSet(key, QString(), value, done);
+}
+
 void Nexo::command(QObject *origin, const QString &key, const QVariant &value)
 {
     Q_UNUSED(origin)
@@ -210,11 +217,12 @@ bool Nexo::Private::send(const QLatin1String &method, const QString &key, const 
     return sent;
 }
 
-void Nexo::Private::sendSet(const QString &key, const QString &subKey, const QJsonValue &value)
+bool Nexo::Private::sendSet(const QString &key, const QString &subKey, const QJsonValue &value,
+                            const Done &done)
 {
     QJsonObject params = keyAndValue(key, value);
     params.insert(QLatin1String("sub"), subKey);
-    send(setMethod, key, params);
+    return send(setMethod, key, params, done);
 }
 
 ostrel::ModuleObject *Nexo::Private::exec(const QLatin1String &method, const QString &key,

@@ -49,10 +49,11 @@ public:
     void command(QObject *origin, const QString &key, ostrel::ModuleObject *node);
 
     /**
-     * The same, and done is called once, later: with the answer, or with a problem, one line, where
-     * none came. False, with a log line and without done, where it can't be sent.
+     * The same two, and done is called once, later: with the answer, or with a problem, one line,
+     * where none came. False, with a log line and without done, where it can't be sent.
      */
     using Done = std::function<void(const QJsonValue &answer, const QString &problem)>;
+    bool set(QObject *origin, const QString &key, const QJsonValue &value, const Done &done);
     bool command(QObject *origin, const QString &key, const QJsonValue &value, const Done &done);
 
     /** Sends a command and blocks until the hub answers, the link is lost, or the host's limit

@@ -9,6 +9,7 @@
 #include "tavik/projectlist_p.h"
 #include "tavik/refusals_p.h"
 #include "tavik/runcontrol_p.h"
+#include "tavik/selectedframes_p.h"
 #include "tavik/storeedit_p.h"
 #include "tavik/workspace_p.h"
 
@@ -50,6 +51,7 @@ public:
     ListMirrors lists;
     OpenProject project;
     HotUpdates hotUpdates;
+    SelectedFrames frames;
     RunControl run;
 };
 

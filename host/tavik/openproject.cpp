@@ -1,6 +1,8 @@
 #include "tavik/openproject_p.h"
 
 #include "brisa/controllermanager.h"
+#include "brisa/managerhelper.h"
+#include "brisa/settingmanager.h"
 #include "link/client.h"
 #include "ostrel/keptfiles_p.h"
 #include "ostrel/moduleobject.h"
@@ -12,6 +14,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <utility>
 
 namespace tavik
 {
@@ -35,6 +38,17 @@ ostrel::ModuleObject *convertNode()
 QString projectName()
 {
     return currentNode()->getStr(QString()).section(QLatin1Char('/'), -1);
+}
+
+/** Where saves go without an open project. */
+QString scratchDirectory()
+{
+    return projectDirectory(QStringLiteral("_temp"));
+}
+
+bool holdsRecords(const RecordFile &file)
+{
+    return m(QLatin1String(file.key))->childCount() > 0;
 }
 
 void tellDamage(const QString &path, const QString &problem)
@@ -62,12 +76,19 @@ OpenProject::OpenProject(brisa::ControllerManager *controller, QObject *parent)
     using ostrel::ModuleObject;
     connect(convertNode(), &ModuleObject::changed, this, [this](const QVariant &signal) {
         if (signal.toBool())
-            open();
+            convert();
     });
     connect(currentNode(), &ModuleObject::changed, this,
             [this](const QVariant &project) { follow(project.toString()); });
-    connect(m(QStringLiteral("brisa.r.id")), &ModuleObject::changed, this,
-            &OpenProject::followIdentity);
+    connect(m(QStringLiteral("brisa.r.id")), &ModuleObject::changed, this, [this] {
+        m_autoloadDone = false;
+        followPlace();
+    });
+    connect(brisa::ManagerHelper::instance()->settingManager(), &brisa::SettingManager::changed,
+            this, [this](const QString &key) {
+                if (key == QLatin1String("workspace"))
+                    followPlace();
+            });
     connect(controller, &brisa::ControllerManager::rcConnected, this, &OpenProject::tellController);
     empty();
 }
@@ -88,6 +109,24 @@ void OpenProject::openAutoload()
     convertNode()->set(this, true);
 }
 
+/** A switch has been read already with the name; the same project again has not. */
+void OpenProject::convert()
+{
+    if (!std::exchange(m_readAhead, false))
+        open();
+    rpc::deliver(convertNode()->name(), [this] { convertNode()->set(this, false); });
+}
+
+/** At once with the name: an edit on the way would be saved as the other project's. */
+void OpenProject::follow(const QString &project)
+{
+    m_readAhead = !project.isEmpty() && project != m_project;
+    if (project.isEmpty())
+        empty();
+    else if (m_readAhead)
+        open();
+}
+
 void OpenProject::open()
 {
     const QString name = projectName();
@@ -98,33 +137,34 @@ void OpenProject::open()
                  .arg(rpc::inOneLine(name)));
     if (directory.isEmpty()) {
         empty();
-    } else {
-        loadInfo(directory);
-        load(pointFile(), directory);
-        load(variableFile(), directory);
-        tellController();
+        return;
     }
-    rpc::deliver(convertNode()->name(), [this] { convertNode()->set(this, false); });
+    m_project = currentNode()->getStr(QString());
+    m_directory = directory;
+    loadInfo(directory);
+    load(pointFile(), directory);
+    load(variableFile(), directory);
+    tellController();
 }
 
-/** Nothing of a project that was closed may be saved as another's. */
-void OpenProject::follow(const QString &project)
+/** What belongs to one robot and one workspace must not be saved in another. */
+void OpenProject::followPlace()
 {
+    const QString project = currentNode()->getStr(QString());
+    const QString directory
+        = project.isEmpty() ? scratchDirectory() : projectDirectory(projectName());
+    if (directory == m_directory)
+        return;
+    if (!project.isEmpty() || holdsRecords(pointFile()) || holdsRecords(variableFile()))
+        tell(QStringLiteral("warning"),
+             tr("%1 was closed: the panel now works in %2. What was saved stays in %3.")
+                 .arg(project.isEmpty() ? tr("What is in no project")
+                                        : tr("The project %1").arg(project),
+                      robotDirectory(), m_directory));
     if (project.isEmpty())
         empty();
-}
-
-void OpenProject::followIdentity()
-{
-    m_autoloadDone = false;
-    keepScratch();
-    const QString project = currentNode()->getStr(QString());
-    if (project.isEmpty() || project.section(QLatin1Char('/'), 0, 0) == robotName())
-        return;
-    tell(QStringLiteral("warning"),
-         tr("The project %1 was closed: the panel now works with the robot %2.")
-             .arg(project, robotName()));
-    rpc::deliver(currentNode()->name(), [this] { currentNode()->set(this, QString()); });
+    else
+        rpc::deliver(currentNode()->name(), [this] { currentNode()->set(this, QString()); });
 }
 
 void OpenProject::load(const RecordFile &file, const QString &directory)
@@ -153,20 +193,16 @@ void OpenProject::loadInfo(const QString &directory)
     setWhereDifferent(QStringLiteral("tavik.project.project_info"), info, this);
 }
 
+/** Saves replace the scratch project's files then, and keep what they held. */
 void OpenProject::empty()
 {
     setWhereDifferent(QStringLiteral("tavik.project.project_info"), QJsonObject(), this);
     for (const RecordFile &file : {pointFile(), variableFile()})
         setWhereDifferent(QLatin1String(file.key), QJsonArray(), this);
-    keepScratch();
-}
-
-/** Without an open project, saves replace the scratch project's files. */
-void OpenProject::keepScratch()
-{
-    const QString directory = projectDirectory(QStringLiteral("_temp"));
+    m_project.clear();
+    m_directory = scratchDirectory();
     for (const RecordFile &file : {pointFile(), variableFile()})
-        ostrel::keepBeforeWriting(directory + QLatin1Char('/') + QLatin1String(file.fileName),
+        ostrel::keepBeforeWriting(m_directory + QLatin1Char('/') + QLatin1String(file.fileName),
                                   QStringLiteral("kept"));
 }
 

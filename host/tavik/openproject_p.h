@@ -14,11 +14,11 @@ namespace tavik
 struct RecordFile;
 
 /**
- * The open project ("tavik.project.cur_project", "<robot>/<name>"): a true "convert_signal" beside
- * it makes this read its points, variables and "projectinfo.json" into the data store and tell the
- * controller which project is open, again after each connect. Without an open project the lists are
- * empty. A project of another robot is closed when the robot's identity changes, since its data
- * would be saved as the new robot's.
+ * The open project ("tavik.project.cur_project", "<robot>/<name>"): its points, variables and
+ * "projectinfo.json" are read into the data store, and the controller is told which one is open,
+ * again after each connect. They are read as soon as another project is named, and when a true
+ * "convert_signal" says so. Without an open project the lists are empty. A project is closed when
+ * the robot's identity or the workspace changes, since its data would be saved there.
  *
  * A damaged file stays as it is: its list is empty then, the operator is told, and the first save
  * keeps a copy. GUI thread; reading blocks for the disk.
@@ -36,17 +36,20 @@ public:
     void openAutoload();
 
 private:
-    void open();
+    void convert();
     void follow(const QString &project);
-    void followIdentity();
+    void followPlace();
+    void open();
 
     void load(const RecordFile &file, const QString &directory);
     void loadInfo(const QString &directory);
     void empty();
-    void keepScratch();
     void tellController();
 
     brisa::ControllerManager *m_controller;
+    QString m_project; ///< whose content the lists hold, as "robot/name"
+    QString m_directory; ///< where saves go
+    bool m_readAhead = false; ///< the next convert_signal finds it read
     bool m_autoloadDone = false;
 };
 

@@ -61,11 +61,38 @@ private Q_SLOTS:
         m("tavik.project.cur_project")->set(nullptr, "");
         QCOMPARE(points(), 0);
         QVERIFY(!m("tavik.project.project_info")->contains("description"));
+    }
+
+    /** The saves of another robot, workspace or project must not get these points. */
+    void nothingIsSavedInAnotherPlace()
+    {
+        const auto changeRobot = [] { m("brisa.r.id")->set(nullptr, "R2"); };
+        const auto changeWorkspace = [] { RobotPeer::settings()->set("workspace", "ws2"); };
+        for (const auto &change : {std::function<void()>(changeRobot), {changeWorkspace}}) {
+            for (const char *project : {"R1/cell", ""}) {
+                cleanup();
+                init();
+                openCell();
+                m("tavik.project.cur_project")->set(nullptr, project);
+                m("tavik.project.point._list")->set(nullptr, "#0.name", "Q", true);
+                change();
+                QCOMPARE(current(), QString());
+                QCOMPARE(points(), 0);
+                const QString told = m_peer->told();
+                QVERIFY2(told.contains(*project ? "The project R1/cell was closed"
+                                                : "stays in ws/R1/_temp"),
+                         qPrintable(told));
+            }
+        }
         openCell();
-        m("brisa.r.id")->set(nullptr, "R2"); // another robot: its saves must not get these points
-        QCOMPARE(current(), QString());
-        QCOMPARE(points(), 0);
-        QVERIFY(m_peer->told().contains("R1/cell was closed"));
+        m("brisa.r.id")->set(nullptr, "R1");
+        QString seen;
+        connect(m("tavik.project.cur_project"), &ModuleObject::changed, m_peer->data.get(),
+                [&] { seen = m("tavik.project.point._list.#0.name")->getStr("-"); });
+        m_peer->write("ws2/R1/other/point.json",
+                      R"({"version": "0.2", "points": [{"name": "O"}]})");
+        m("tavik.project.cur_project")->set(nullptr, "R1/other");
+        QCOMPARE(seen, QString("O"));
     }
 
     void namesThatLeaveTheWorkspace()

@@ -74,12 +74,13 @@ void FramesPlugin::refresh()
     InterfaceManager *const robot = zepletInterface();
     const QStringList names[]
         = {robot->getToolList(), robot->getWobjList(), robot->getSpeedList(), robot->getZoneList()};
-    const QString selected[] = {robot->getCurTool(), robot->getCurWobj(), QString(), QString()};
+    const QString selected[]
+        = {robot->getCurTool(), robot->getCurWobj(), names[2].value(0), names[3].value(0)};
     for (int i = 0; i < m_lists.size(); ++i) {
         m_lists[i]->clear();
         for (const QString &name : names[i])
             (new QListWidgetItem(name, m_lists[i]))->setSizeHint({0, 53}); // a finger's width
-        m_lists[i]->setCurrentRow(qMax(0, names[i].indexOf(selected[i])));
+        m_lists[i]->setCurrentRow(names[i].indexOf(selected[i])); // none, if it is gone
     }
     describe();
 }

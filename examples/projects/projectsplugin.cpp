@@ -2,6 +2,7 @@
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
+#include <QDeadlineTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,7 +43,8 @@ private:
     QLineEdit *m_name = nullptr;
     QListWidget *m_list = nullptr;
     QLabel *m_notice = nullptr;
-    QString m_toRemove; ///< what a second tap on "Remove" removes
+    QString m_toRemove; ///< what a second tap on "Remove" removes, soon after the first
+    QDeadlineTimer m_confirmUntil;
 };
 
 void ProjectsPlugin::init()
@@ -114,9 +116,12 @@ void ProjectsPlugin::open()
 void ProjectsPlugin::remove()
 {
     const QString name = selected();
-    if (name != std::exchange(m_toRemove, name))
+    if (!name.isEmpty() && (name != m_toRemove || m_confirmUntil.hasExpired())) {
+        m_toRemove = name;
+        m_confirmUntil.setRemainingTime(5000);
         return m_notice->setText(
-            tr("Tap Remove again: \"%1\" goes with all its points.").arg(name));
+            tr("Tap Remove again within 5 s: \"%1\" goes with all its points.").arg(name));
+    }
     m_toRemove.clear();
     say(zepletInterface()->removeProject(name), tr("\"%1\" is removed.").arg(name),
         tr("\"%1\" is no longer there.").arg(name));

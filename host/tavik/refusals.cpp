@@ -37,7 +37,9 @@ constexpr Request requests[] = {
     {"io.io_signal.set_input_simu_mode",
      QT_TRANSLATE_NOOP("tavik", "Switching the simulation of inputs"), stopFirst},
     {"project.overview.open", QT_TRANSLATE_NOOP("tavik", "Opening the project in the controller"),
-     QT_TRANSLATE_NOOP("tavik", "Open it again, or give it another name.")},
+     QT_TRANSLATE_NOOP("tavik",
+                       "The controller still works with the project before. "
+                       "Remove the cause, then open the project again.")},
 };
 
 QString tr(const char *text)

@@ -42,6 +42,7 @@ public:
 private:
     QLayout *createLine();
     void watch();
+    int select(QVector<QString> names);
     void write();
     void follow(const QVariantMap &values);
     void say(int code, const QString &done);
@@ -86,6 +87,12 @@ void PersistentPlugin::init()
         NexoDataChange, filterByServiceKey(valuesKey),
         adaptNexoCallback([this](const QVariant &values) { follow(values.toMap()); }), pluginName,
         m_page);
+    // A controller that was started again has forgotten what is watched.
+    const auto selectAgain = [this](auto &) {
+        if (!m_names.isEmpty())
+            select(m_names);
+    };
+    zepletEvent()->subscribe(NetworkConnected, selectAgain, pluginName, m_page);
 }
 
 QLayout *PersistentPlugin::createLine()
@@ -104,7 +111,6 @@ QLayout *PersistentPlugin::createLine()
     return line;
 }
 
-// The selection belongs to the whole panel: what others watch stays in it.
 void PersistentPlugin::watch()
 {
     const QString name = m_name->text().trimmed();
@@ -112,10 +118,7 @@ void PersistentPlugin::watch()
         return m_notice->setText(tr("Connect the controller first, then tap Watch again."));
     if (name.isEmpty() || m_names.contains(name))
         return m_notice->setText(tr("Type the name of a variable that is not in the table yet."));
-    QVector<QString> all {name};
-    for (const QVariant &other : zepletInterface()->getRegistedPERSVars())
-        all.append(other.toString());
-    const int code = zepletInterface()->registPERSVars(all);
+    const int code = select(m_names + QVector<QString> {name});
     const QString value = zepletInterface()->getValuesOfPERSVars({name}).constFirst();
     say(code,
         value.isEmpty() ? tr("\"%1\" has no value yet, or another name.").arg(name)
@@ -126,6 +129,16 @@ void PersistentPlugin::watch()
     m_table->setRowCount(m_names.size());
     m_table->setItem(m_names.size() - 1, 0, new QTableWidgetItem(name));
     m_table->setItem(m_names.size() - 1, 1, new QTableWidgetItem(value));
+}
+
+// The selection belongs to the whole panel: what others watch stays in it.
+int PersistentPlugin::select(QVector<QString> names)
+{
+    for (const QVariant &other : zepletInterface()->getRegistedPERSVars()) {
+        if (!names.contains(other.toString()))
+            names.append(other.toString());
+    }
+    return zepletInterface()->registPERSVars(names);
 }
 
 void PersistentPlugin::write()

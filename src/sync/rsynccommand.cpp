@@ -3,17 +3,32 @@
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 
+#include <QRegularExpression>
+
 namespace zeplet
 {
 
 namespace
 {
 
+// The daemon takes a path with wildcards for a pattern, in which a backslash quotes, and a path
+// below the module that starts like an option for one: either could lead into another project.
+QString asRemotePath(const QString &path)
+{
+    static const QRegularExpression wildcard(QStringLiteral("[*?\\[]"));
+    static const QRegularExpression special(QStringLiteral("([*?\\[\\]\\\\])"));
+    static const QRegularExpression option(QStringLiteral("\\A([^/]*/)-"));
+    QString remote = path;
+    if (path.contains(wildcard))
+        remote.replace(special, QStringLiteral("\\\\1"));
+    return remote.replace(option, QStringLiteral("\\1./-"));
+}
+
 QString daemonAddress(const QString &remotePath)
 {
     const QString ip = brisa::ManagerHelper::instance()->settingManager()->getStr(
         QStringLiteral("server.ip"), QString());
-    return QStringLiteral("brisa@%1::%2").arg(ip, remotePath);
+    return QStringLiteral("brisa@%1::%2").arg(ip, asRemotePath(remotePath));
 }
 
 } // namespace

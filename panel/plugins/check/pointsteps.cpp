@@ -114,7 +114,7 @@ CheckSteps pointSteps(CheckSession *session)
              [] { return robot()->removePointElement(array, QStringLiteral("[2]")); }),
         atOnce(QStringLiteral("two edits within a second, both arrived"),
                [session] {
-                   const QString problem = moveTwice();
+                   QString problem = moveTwice();
                    session->kept()->keep(point, array);
                    return problem;
                }),

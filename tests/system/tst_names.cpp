@@ -11,10 +11,26 @@ using zeplet::InterfaceManager;
 namespace
 {
 
-const QStringList names {"with two  blanks", "it's \"quoted\"", "a;touch marker",
-                         "$(touch marker)",  "`touch marker`",  "100%1%s%n%%",
-                         "点云 工作站",      "a.b[0]#1",        "--delete",
-                         "aXb", "aXX*b", "a*b", "a?b", "a[X]b", "[", "a\\*b", "a\\\\*b\\", "&|<>~\\n",       "host:x",          QString(255, 'x')};
+const QStringList names {"with two  blanks",
+                         "it's \"quoted\"",
+                         "a;touch marker",
+                         "$(touch marker)",
+                         "`touch marker`",
+                         "100%1%s%n%%",
+                         "点云 工作站",
+                         "a.b[0]#1",
+                         "--delete",
+                         "aXb",
+                         "aXX*b",
+                         "a*b",
+                         "a?b",
+                         "a[X]b",
+                         "[",
+                         "a\\*b",
+                         "a\\\\*b\\",
+                         "&|<>~\\n",
+                         "host:x",
+                         QString(255, 'x')};
 
 simulator::Scenario withSignals()
 {
@@ -118,7 +134,8 @@ private:
         QVERIFY(api().createPoint(name, false, false));
         QVERIFY(api().addCurrentPoint(name, false, "tool0", "wobj0", ""));
         QVERIFY(api().addVarData(name, name, true));
-        QCOMPARE(api().getVarObjDataByName(name)["value"].toObject()["[0][0][0]"], QJsonValue(name));
+        QCOMPARE(api().getVarObjDataByName(name)["value"].toObject()["[0][0][0]"],
+                 QJsonValue(name));
         for (const QString kind : {"point", "var"}) {
             const QByteArray file = RobotSite::read(RobotSite::panelFile(kind));
             QVERIFY2(RobotSite::read(RobotSite::controllerFile(kind)) == file, qPrintable(name));

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
+#include <functional>
+#include <limits>
 
 using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
@@ -24,6 +26,7 @@ constexpr double WristWidth = 64; // mm
 constexpr float ToolAxis = 130; // mm
 constexpr double LabelPadding = 7;
 constexpr int MostLabels = 12;
+constexpr double MarkSize = 7;
 
 QColor mixed(const QColor &a, const QColor &b, double part)
 {
@@ -158,8 +161,11 @@ void ArmPainter::drawArm(const QVector<QVector3D> &skeleton, const QVector<Place
             parts.append({m_camera.depth(from) + BaseWidth / 4,
                           [=] { drawJoint(from, width(i, links) * 0.5); }});
     }
-    for (const PlaceMark &mark : marks)
-        parts.append({m_camera.depth(mark.place), [=] { drawMark(mark); }});
+    for (const PlaceMark &mark : marks) {
+        const double near = mark.chosen ? std::numeric_limits<double>::max() // never hidden
+                                        : m_camera.depth(mark.place);
+        parts.append({near, [=] { drawMark(mark); }});
+    }
     std::stable_sort(parts.begin(), parts.end(),
                      [](const Part &a, const Part &b) { return a.depth < b.depth; });
     if (links > 0)
@@ -289,6 +295,10 @@ void ArmPainter::drawLabels(const QVector<PlaceMark> &marks)
 {
     QVector<QRectF> taken;
     for (const PlaceMark &mark : marks) {
+        const QPointF at = m_camera.project(mark.place);
+        taken.append(QRectF(at - QPointF(MarkSize, MarkSize), at + QPointF(MarkSize, MarkSize)));
+    }
+    for (const PlaceMark &mark : marks) {
         if (mark.chosen)
             drawLabel(m_camera.project(mark.place), mark.label, true, &taken);
     }
@@ -300,22 +310,25 @@ void ArmPainter::drawLabels(const QVector<PlaceMark> &marks)
     }
 }
 
-/** Right of the place, or left of it; a label that would hide another one is left out. */
+/** Right of the place, or left of it; one that would hide something is left out, unless chosen. */
 bool ArmPainter::drawLabel(const QPointF &at, const QString &text, bool chosen,
                            QVector<QRectF> *taken)
 {
     const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
     m_painter->setFont(ThemeManager::font(brisa::TextSize::Caption, chosen));
     const QFontMetricsF font(m_painter->font());
-    const double most = m_area.width() * 0.45;
-    const QString shown = font.elidedText(text, Qt::ElideRight, most);
-    QRectF box(at.x() + 14, at.y() - font.height() / 2 - 3,
-               font.horizontalAdvance(shown) + 2 * LabelPadding, font.height() + 6);
-    if (box.right() > m_area.right() - metrics::Grid)
-        box.moveRight(at.x() - 14);
-    const bool hides = std::any_of(taken->begin(), taken->end(),
-                                   [&](const QRectF &other) { return other.intersects(box); });
-    if (hides)
+    const QString shown = font.elidedText(text, Qt::ElideRight, m_area.width() * 0.34);
+    const QRectF right(at.x() + 14, at.y() - font.height() / 2 - 3,
+                       font.horizontalAdvance(shown) + 2 * LabelPadding, font.height() + 6);
+    const QRectF left = right.translated(-right.width() - 28, 0);
+    const auto fits = [&](const QRectF &box) {
+        return QRectF(m_area).contains(box)
+            && std::none_of(taken->begin(), taken->end(),
+                            [&](const QRectF &other) { return other.intersects(box); });
+    };
+    const bool toTheLeft = !fits(right) && (fits(left) || right.right() > m_area.right());
+    const QRectF box = toTheLeft ? left : right;
+    if (!chosen && !fits(box))
         return false;
     taken->append(box);
     m_painter->setPen(Qt::NoPen);

@@ -144,11 +144,11 @@ void ArmView::turn()
     update();
 }
 
-/** Where the cell is shown; only its highest parts reach between the tabs. */
+/** Where the cell is shown. In space only little of it reaches as high as the tabs. */
 QRectF ArmView::stage() const
 {
-    return QRectF(rect()).adjusted(metrics::Margin, 4 * metrics::Grid, -metrics::Margin,
-                                   -5 * metrics::Grid);
+    const int top = m_views->currentIndex() == Space ? m_views->height() / 2 : m_views->height();
+    return QRectF(rect()).adjusted(metrics::Margin, top, -metrics::Margin, -5 * metrics::Grid);
 }
 
 void ArmView::paintEvent(QPaintEvent *)

@@ -431,6 +431,7 @@ private:
         if (state == "refused") {
             zepletInterface()->setPointCartData("camera", {90000, 0, 0, 180, 0, 0}, "");
             m_panel.tap("points", "camera");
+            m_panel.find<QComboBox>("moveWay")->setCurrentIndex(0);
             announceRefusal();
             QVERIFY(press("moveStart"));
             QTRY_VERIFY(!m_panel.notice().isEmpty());

@@ -18,9 +18,13 @@ QString textOf(const QJsonObject &entry, const char *member)
     return entry[QLatin1String(member)].toString();
 }
 
+/** What is removed comes as its record: a point's has no type, but says what kind of target it is.
+ */
 bool isPoint(const QJsonObject &entry)
 {
     const QString type = textOf(entry, "type");
+    if (type.isEmpty())
+        return entry.contains(QStringLiteral("property"));
     return type == QLatin1String("robtarget") || type == QLatin1String("jointtarget");
 }
 

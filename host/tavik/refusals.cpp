@@ -33,7 +33,10 @@ constexpr Request requests[] = {
     {"system.state.switch_auto", QT_TRANSLATE_NOOP("tavik", "The change to automatic mode"),
      stopFirst},
     {"io.io_signal.set_signal_value", QT_TRANSLATE_NOOP("tavik", "Setting the signal"),
-     QT_TRANSLATE_NOOP("tavik", "Check the signal's name and type.")},
+     QT_TRANSLATE_NOOP(
+         "tavik",
+         "Check the signal's name and type; an input can be set only while inputs are "
+         "simulated.")},
     {"io.io_signal.set_input_simu_mode",
      QT_TRANSLATE_NOOP("tavik", "Switching the simulation of inputs"), stopFirst},
     {"project.overview.open", QT_TRANSLATE_NOOP("tavik", "Opening the project in the controller"),

@@ -75,7 +75,7 @@ private slots:
         Simulator simulated(withFiles(directory.filePath("a b/controller")));
         QString error;
         QVERIFY2(simulated.start(0, 0, &error), qPrintable(error));
-        QByteArray content("{\"k\": \"\xe7\x82\xb9\"}\r\n", 18);
+        QByteArray content("{\"k\": \"\xe7\x82\xb9\"}\r\n");
         content += QByteArray(100000, '\0');
         write(directory.filePath("from.json"), content);
 

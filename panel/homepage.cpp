@@ -37,7 +37,7 @@ Reading pluginReading(int running, int troubled)
         return {brisa::Glyph::Warning, Tone::Warning,
                 HomePage::tr("%1 of %2").arg(running).arg(running + troubled),
                 HomePage::tr("The page \"Overview\" says why")};
-    return {brisa::Glyph::Plugin, Tone::Neutral, QString::number(running),
+    return {brisa::Glyph::Plugin, Tone::Muted, QString::number(running),
             HomePage::tr("All plugins are running")};
 }
 

@@ -20,7 +20,7 @@ QString tr(const char *text)
 
 Reading unknown(const RobotState &robot, Glyph glyph)
 {
-    return {glyph, Tone::Neutral, tr("Unknown"),
+    return {glyph, Tone::Muted, tr("Unknown"),
             robot.controllerConnected() ? tr("The controller does not say")
                                         : tr("No link to the controller")};
 }
@@ -50,28 +50,28 @@ Reading powerReading(const RobotState &robot)
 {
     return either(robot, robot.powered(),
                   {Glyph::Power, Tone::Warning, tr("On"), tr("The robot can move")},
-                  {Glyph::Power, Tone::Neutral, tr("Off"), tr("The motors are without power")});
+                  {Glyph::Power, Tone::Muted, tr("Off"), tr("The motors are without power")});
 }
 
 Reading modeReading(const RobotState &robot)
 {
     return either(robot, robot.automatic(),
-                  {Glyph::Cycle, Tone::Active, tr("Automatic"), tr("Programs run by themselves")},
-                  {Glyph::Hand, Tone::Active, tr("Manual"), tr("Moves by hand, at low speed")});
+                  {Glyph::Cycle, Tone::Accent, tr("Automatic"), tr("Programs run by themselves")},
+                  {Glyph::Hand, Tone::Accent, tr("Manual"), tr("Moves by hand, at low speed")});
 }
 
 Reading runReading(const RobotState &robot)
 {
     return either(robot, robot.running(),
                   {Glyph::Play, Tone::Ok, tr("Running"), tr("A program is running")},
-                  {Glyph::Stop, Tone::Neutral, tr("Stopped"), tr("No program is running")});
+                  {Glyph::Stop, Tone::Muted, tr("Stopped"), tr("No program is running")});
 }
 
 Reading userReading(const RobotState &robot)
 {
     if (!robot.userLevel() || !robot.controllerConnected())
         return unknown(robot, Glyph::User);
-    return {Glyph::User, Tone::Neutral, tr("Level %1").arg(*robot.userLevel()),
+    return {Glyph::User, Tone::Muted, tr("Level %1").arg(*robot.userLevel()),
             tr("Says what may be changed")};
 }
 

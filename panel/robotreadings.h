@@ -1,19 +1,20 @@
 #pragma once
 
-#include "tone.h"
-
 #include <QString>
 #include <brisa/glyph.h>
+#include <brisa/tone.h>
 
 namespace panel
 {
+
+using brisa::Tone;
 
 class RobotState;
 
 /** One state of the robot as it is shown: pictogram, meaning, words. */
 struct Reading {
     brisa::Glyph glyph = brisa::Glyph::Info;
-    Tone tone = Tone::Neutral;
+    Tone tone = Tone::Muted;
     QString value; ///< a word or two: "On"
     QString hint; ///< one line that explains it
 };

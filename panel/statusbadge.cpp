@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <brisa/thememanager.h>
 
 namespace panel
 {
@@ -48,7 +49,7 @@ QSize StatusBadge::minimumSizeHint() const
 
 void StatusBadge::paintEvent(QPaintEvent *)
 {
-    const ToneColours colours = toneColours(m_reading.tone);
+    const brisa::ToneColours colours = toneColours(m_reading.tone);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <brisa/thememanager.h>
 
 namespace panel
 {
@@ -25,7 +26,7 @@ QPixmap disc(const Reading &reading, qreal ratio)
     constexpr int size = brisa::metrics::Touch;
     constexpr int icon = brisa::metrics::Icon + brisa::metrics::Grid;
     constexpr int at = (size - icon) / 2;
-    const ToneColours colours = toneColours(reading.tone);
+    const brisa::ToneColours colours = toneColours(reading.tone);
     QPixmap pixmap(QSize(size, size) * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
@@ -109,8 +110,8 @@ void StatusCard::paintEvent(QPaintEvent *event)
     QPainterPath card;
     card.addRoundedRect(rect(), brisa::metrics::Radius, brisa::metrics::Radius);
     painter.setClipPath(card);
-    const ToneColours colours = toneColours(m_reading.tone);
-    const bool neutral = m_reading.tone == Tone::Neutral;
+    const brisa::ToneColours colours = toneColours(m_reading.tone);
+    const bool neutral = m_reading.tone == Tone::Muted;
     painter.fillRect(0, 0, StripWidth, height(),
                      neutral ? ThemeManager::instance()->colours().border : colours.line);
 }

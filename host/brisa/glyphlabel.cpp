@@ -60,9 +60,10 @@ QSize GlyphLabel::minimumSizeHint() const
 void GlyphLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, (height() - metrics::Icon) / 2,
-                       glyphPixmap(m_glyph, colour(), metrics::Icon, devicePixelRatioF()));
-    painter.setPen(m_tone == Tone::Muted ? colour() : ThemeManager::instance()->colours().text);
+    painter.drawPixmap(
+        0, (height() - metrics::Icon) / 2,
+        glyphPixmap(m_glyph, toneColours(m_tone).line, metrics::Icon, devicePixelRatioF()));
+    painter.setPen(toneColours(m_tone == Tone::Muted ? Tone::Muted : Tone::Plain).line);
     painter.drawText(rect().adjusted(metrics::Icon + metrics::Grid, 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_text);
 }
@@ -72,26 +73,6 @@ void GlyphLabel::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         updateGeometry();
-}
-
-QColor GlyphLabel::colour() const
-{
-    const ThemeColours &colours = ThemeManager::instance()->colours();
-    switch (m_tone) {
-    case Tone::Muted:
-        return colours.mutedText;
-    case Tone::Accent:
-        return colours.accent;
-    case Tone::Ok:
-        return colours.ok;
-    case Tone::Warning:
-        return colours.warning;
-    case Tone::Error:
-        return colours.error;
-    case Tone::Plain:
-        break;
-    }
-    return colours.text;
 }
 
 } // namespace brisa

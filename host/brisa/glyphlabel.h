@@ -1,15 +1,13 @@
 #pragma once
 
 #include "brisa/glyph.h"
+#include "brisa/tone.h"
 #include "hostexport.h"
 
 #include <QWidget>
 
 namespace brisa
 {
-
-/** What a GlyphLabel says beyond its text; Plain and Muted are the text's colours. */
-enum class Tone { Plain, Muted, Accent, Ok, Warning, Error };
 
 /** A pictogram with a short text beside it, in the colour of its tone; for status bars. GUI thread.
  */
@@ -34,8 +32,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QColor colour() const;
-
     Glyph m_glyph;
     QString m_text;
     Tone m_tone;

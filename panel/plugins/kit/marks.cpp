@@ -29,26 +29,6 @@ QString shortened(const QString &name)
     return name.left(LongestName - 12) + QStringLiteral(" … ") + name.right(9);
 }
 
-ToneColours toneColours(Tone tone)
-{
-    const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
-    switch (tone) {
-    case Tone::Accent:
-        return {colours.accent, colours.accentSoft};
-    case Tone::Ok:
-        return {colours.ok, colours.okSoft};
-    case Tone::Warning:
-        return {colours.warning, colours.warningSoft};
-    case Tone::Error:
-        return {colours.error, colours.errorSoft};
-    case Tone::Muted:
-        return {colours.mutedText, colours.raised};
-    case Tone::Plain:
-        break;
-    }
-    return {colours.text, colours.raised};
-}
-
 // On and off differ in form too, not in colour alone: a disc with a light in it, or a ring.
 void drawLamp(QPainter *painter, const QRect &box, Lamp lamp)
 {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QColor>
 #include <QString>
-#include <brisa/glyphlabel.h>
+#include <brisa/tone.h>
 
 class QPainter;
 class QRect;
@@ -12,14 +11,8 @@ namespace kit
 {
 
 using brisa::Tone;
-
-struct ToneColours {
-    QColor line; ///< text and pictograms
-    QColor soft; ///< the ground behind them
-};
-
-/** The current theme's colours for a meaning. */
-ToneColours toneColours(Tone tone);
+using brisa::toneColours;
+using brisa::ToneColours;
 
 /** A name for a sentence or a title: the middle of one that is too long is left out. */
 QString shortened(const QString &name);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QToolButton>
+#include <brisa/glyph.h>
 #include <brisa/thememanager.h>
 
 namespace kit

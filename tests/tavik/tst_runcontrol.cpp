@@ -175,12 +175,14 @@ private:
         m("tavik.project.point.hot_update.operate")->set(nullptr, operation);
     }
 
-    /** The requests to start and to stop so far; what was sent before has arrived. */
+    /** The requests to start and to stop so far; what was sent before has arrived. Nobody else
+     * sends the mark, so its answer can't be that to an earlier request. */
     QString sent()
     {
-        QSignalSpy answered(m_peer->manager()->cmdItemMobj("response", "register.get"),
+        m_peer->controller.answer("mark.get", QJsonArray());
+        QSignalSpy answered(m_peer->manager()->cmdItemMobj("response", "mark.get"),
                             &ModuleObject::changed);
-        m_peer->manager()->request("register", "get", QJsonValue(), 0);
+        m_peer->manager()->request("mark", "get", QJsonValue(), 0);
         answered.wait();
         QStringList sent;
         for (const rpc::Message &request : m_peer->controller.requests()) {

@@ -15,4 +15,7 @@
 #include <zeplet/plugin/pluginbase.h>
 #include <zeplet/plugin/pluginregister.h>
 #include <zeplet/plugin/uiservices.h>
+#include <zeplet/rl/rlbasewidget.h>
+#include <zeplet/rl/rlcontentbase.h>
+#include <zeplet/rl/rlmanager.h>
 #include <zeplet/sync/synctool.h>

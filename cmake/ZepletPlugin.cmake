@@ -1,4 +1,5 @@
-# zeplet_add_plugin(NAME name SOURCES file ... [LIBS library ...] [TARGET target] [NO_INSTALL])
+# zeplet_add_plugin(NAME name SOURCES file ... [LIBS library ...] [TRANSLATIONS file.ts ...]
+#                   [TARGET target] [NO_INSTALL])
 #
 # Adds a plugin: a loadable library with C++17, AUTOMOC, hidden visibility and checked symbols that
 # links Zeplet::zeplet and LIBS. NAME is the name that the plugin registers: a letter or digit, then
@@ -6,15 +7,19 @@
 # TARGET says otherwise, and part of the tag (name, library version, Qt version, compiler interface,
 # architecture) that a panel reads before it opens the library.
 #
+# TRANSLATIONS are files of Qt's translation tools, NAME_LANGUAGE.ts: they become a part of the library,
+# and the panel loads them for the language that the operator chose.
+#
 # The library is built into plugins/ of the build tree and, without NO_INSTALL, installed into
 # lib/zeplet/plugins. Works within this tree and after find_package(Zeplet) alike.
 include(GNUInstallDirs)
+include(${CMAKE_CURRENT_LIST_DIR}/ZepletPluginTranslations.cmake)
 
 set(ZEPLET_PLUGIN_MODULE_DIR ${CMAKE_CURRENT_LIST_DIR})
 set(ZEPLET_PLUGIN_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/zeplet/plugins)
 
 function(zeplet_add_plugin)
-    cmake_parse_arguments(ARG "NO_INSTALL" "NAME;TARGET" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "NO_INSTALL" "NAME;TARGET" "SOURCES;LIBS;TRANSLATIONS" ${ARGN})
     zeplet_check_plugin_arguments()
     if(NOT ARG_TARGET)
         set(ARG_TARGET ${ARG_NAME})
@@ -24,6 +29,9 @@ function(zeplet_add_plugin)
     zeplet_configure_plugin(${ARG_TARGET})
     zeplet_tag_plugin(${ARG_TARGET})
     target_link_libraries(${ARG_TARGET} PRIVATE ${ARG_LIBS} Zeplet::zeplet)
+    if(ARG_TRANSLATIONS)
+        zeplet_add_translations(${ARG_TARGET} ${ARG_NAME} ${ARG_TRANSLATIONS})
+    endif()
     if(NOT ARG_NO_INSTALL)
         install(TARGETS ${ARG_TARGET} LIBRARY DESTINATION ${ZEPLET_PLUGIN_INSTALL_DIR})
     endif()

@@ -20,10 +20,9 @@ const QByteArray harmlessSudo = R"(#!/bin/sh
 [ "$1" != -S ] || exec cat >/dev/null
 )";
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("panel::DesktopTools", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(panel)
+};
 
 bool isProgram(const QString &path)
 {
@@ -88,10 +87,11 @@ void DesktopTools::provideSudo() const
         = m_directory.mkpath(directory) && (holds(path, harmlessSudo) || replace(path, make));
     if (isMade && isProgram(path) && putFirstInSearchPath(directory))
         return;
-    errorLine() << tr("The stand-in %1 can't be used: copying files may ask for a password. Choose "
-                      "another runtime directory, without \":\" in its name, where programs can be "
-                      "written and run.")
-                       .arg(path);
+    errorLine()
+        << Texts::tr("The stand-in %1 can't be used: copying files may ask for a password. Choose "
+                     "another runtime directory, without \":\" in its name, where programs can be "
+                     "written and run.")
+               .arg(path);
 }
 
 void DesktopTools::provideRsync() const
@@ -101,7 +101,7 @@ void DesktopTools::provideRsync() const
         return;
     const QString rsync = QStandardPaths::findExecutable(QStringLiteral("rsync"));
     if (rsync.isEmpty()) {
-        errorLine() << tr(
+        errorLine() << Texts::tr(
             "rsync is not installed: nothing can be copied to the controller. Install "
             "rsync and start the panel again.");
         return;
@@ -110,8 +110,8 @@ void DesktopTools::provideRsync() const
     const bool isFree = present.isSymLink() || !present.exists();
     const auto link = [&](const QString &made) { return QFile::link(rsync, made); };
     if (!isFree || !m_directory.mkpath(QStringLiteral("tools")) || !replace(path, link))
-        errorLine() << tr("%1 can't be made a link to %2: no directory can be copied to the "
-                          "controller. Remove what is there, or check its permissions.")
+        errorLine() << Texts::tr("%1 can't be made a link to %2: no directory can be copied to the "
+                                 "controller. Remove what is there, or check its permissions.")
                            .arg(path, rsync);
 }
 

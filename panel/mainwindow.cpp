@@ -108,10 +108,12 @@ void MainWindow::addHomePage()
 {
     m_center->addPage(nullptr, HomePage::key(), new HomePage(m_robot, m_center));
     // The first group; plugins enter themselves below "robot.pack".
-    ostrel::ModuleObject *const entry = qo::kivra::registerPage(
-        nullptr, tr("Home"), QStringLiteral("panel"), QStringLiteral("home"), 0);
+    ostrel::ModuleObject *const entry
+        = qo::kivra::registerPage(nullptr, QT_TRANSLATE_NOOP("navigation", "Home"),
+                                  QStringLiteral("panel"), QStringLiteral("home"), 0);
     entry->set(nullptr, QStringLiteral("nav"), HomePage::key(), true);
-    qo::kivra::registerGroup(QStringLiteral("robot.pack"), tr("Plugins"));
+    qo::kivra::registerGroup(QStringLiteral("robot.pack"),
+                             QT_TRANSLATE_NOOP("navigation", "Plugins"));
 }
 
 bool MainWindow::showPage(const QString &key)

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <brisa/languagemanager.h>
 #include <cmath>
 
 namespace panel
@@ -14,25 +15,27 @@ namespace
 
 constexpr double longestRun = 7 * 24 * 3600; // seconds
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("panel", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(panel)
+};
 
 void addOptions(QCommandLineParser *parser)
 {
-    parser->setApplicationDescription(tr("The operator panel."));
+    parser->setApplicationDescription(Texts::tr("The operator panel."));
     parser->addHelpOption();
     parser->addVersionOption();
     parser->addOptions({
-        {"plugins", tr("Loads the plugins of DIR; may be given several times."), "DIR"},
-        {"runtime", tr("Works in DIR: its log, workspace and tools."), "DIR"},
-        {"settings", tr("Reads and keeps the settings in FILE."), "FILE"},
-        {"for", tr("Ends after SECONDS."), "SECONDS"},
-        {"screenshot", tr("Saves the window as PNG to FILE just before the end."), "FILE"},
-        {"page", tr("Shows the page KEY of the centre area first."), "KEY"},
-        {"fullscreen", tr("Covers the whole screen.")},
-        {"retry", tr("Lets the plugin NAME, which took the panel down, take part again."), "NAME"},
+        {"plugins", Texts::tr("Loads the plugins of DIR; may be given several times."), "DIR"},
+        {"runtime", Texts::tr("Works in DIR: its log, workspace and tools."), "DIR"},
+        {"settings", Texts::tr("Reads and keeps the settings in FILE."), "FILE"},
+        {"for", Texts::tr("Ends after SECONDS."), "SECONDS"},
+        {"screenshot", Texts::tr("Saves the window as PNG to FILE just before the end."), "FILE"},
+        {"page", Texts::tr("Shows the page KEY of the centre area first."), "KEY"},
+        {"language",
+         Texts::tr("Speaks CODE: %1.").arg(brisa::LanguageManager::languages().join(", ")), "CODE"},
+        {"fullscreen", Texts::tr("Covers the whole screen.")},
+        {"retry", Texts::tr("Lets the plugin NAME, which took the panel down, take part again."),
+         "NAME"},
     });
 }
 
@@ -65,6 +68,7 @@ PanelOptions optionsOf(const QCommandLineParser &parser)
         : QDir(options.runtimeDirectory).filePath(QStringLiteral("settings.json"));
     options.screenshotFile = absolute(parser.value("screenshot"));
     options.page = parser.value("page");
+    options.language = parser.value("language");
     options.retries = parser.values("retry");
     options.fullScreen = parser.isSet("fullscreen");
     return options;
@@ -87,13 +91,20 @@ std::optional<PanelOptions> PanelOptions::parse(const QStringList &arguments, QS
     }
     *exitCode = 2;
     if (!parsed || !parser.positionalArguments().isEmpty()) {
-        *text = parsed ? tr("Unknown argument \"%1\".").arg(parser.positionalArguments().first())
-                       : parser.errorText();
+        *text = parsed
+            ? Texts::tr("Unknown argument \"%1\".").arg(parser.positionalArguments().first())
+            : parser.errorText();
         return std::nullopt;
     }
     const std::optional<int> duration = ::panel::milliseconds(parser.value("for"));
     if (parser.isSet("for") && !duration) {
-        *text = tr("--for needs a number of seconds, not \"%1\".").arg(parser.value("for"));
+        *text = Texts::tr("--for needs a number of seconds, not \"%1\".").arg(parser.value("for"));
+        return std::nullopt;
+    }
+    const QStringList languages = brisa::LanguageManager::languages();
+    if (parser.isSet("language") && !languages.contains(parser.value("language"))) {
+        *text = Texts::tr("--language needs one of %1, not \"%2\".")
+                    .arg(languages.join(", "), parser.value("language"));
         return std::nullopt;
     }
     PanelOptions options = optionsOf(parser);

@@ -15,6 +15,7 @@ struct PanelOptions {
     QString settingsFile;
     QString screenshotFile; ///< empty: none
     QString page; ///< key of the centre page to show first; empty: the first page
+    QString language; ///< code; empty: the setting "language"
     QStringList retries; ///< plugins that were left out and shall take part again
     std::optional<int> milliseconds; ///< how long to run; nothing: until it is closed
     bool fullScreen = false;

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTimer>
+#include <brisa/languagemanager.h>
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 #include <brisa/thememanager.h>
@@ -92,6 +93,10 @@ void PanelSession::readSettings()
     brisa::ThemeManager *const theme = brisa::ThemeManager::instance();
     theme->setTheme(host->settingManager()->getStr(QStringLiteral("theme"), theme->themeName()));
     theme->applyToApplication();
+    const QString language = m_options.language.isEmpty()
+        ? host->settingManager()->getStr(QStringLiteral("language"), QStringLiteral("en"))
+        : m_options.language;
+    brisa::LanguageManager::instance()->setLanguage(language);
 }
 
 void PanelSession::loadPlugins()

@@ -16,10 +16,9 @@ namespace panel
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("panel", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(panel)
+};
 
 QString fileSentence(const QString &file, const ElfSection &section)
 {
@@ -27,20 +26,23 @@ QString fileSentence(const QString &file, const ElfSection &section)
     case ElfSection::Found:
         return QString();
     case ElfSection::NotElf:
-        return tr("%1 is not a library: put the file there that the plugin's build made, or remove "
-                  "this one.")
-            .arg(file);
+        return Texts::
+            tr("%1 is not a library: put the file there that the plugin's build made, or remove "
+               "this one.")
+                .arg(file);
     case ElfSection::NotShared:
-        return tr("%1 is a program, not a plugin library: put the library there, or remove it.")
+        return Texts::tr(
+                   "%1 is a program, not a plugin library: put the library there, or remove it.")
             .arg(file);
     case ElfSection::Truncated:
-        return tr("%1 is cut short: copy the whole file to the panel again.").arg(file);
+        return Texts::tr("%1 is cut short: copy the whole file to the panel again.").arg(file);
     case ElfSection::OtherMachine:
-        return tr("%1 was built for %2 and this panel is %3: build it for %3.")
+        return Texts::tr("%1 was built for %2 and this panel is %3: build it for %3.")
             .arg(file, section.machine, ownMachine());
     case ElfSection::Missing:
-        return tr("%1 has no plugin tag, so nobody knows what it was built against: build it with "
-                  "zeplet_add_plugin().")
+        return Texts::tr(
+                   "%1 has no plugin tag, so nobody knows what it was built against: build it with "
+                   "zeplet_add_plugin().")
             .arg(file);
     }
     return QString();
@@ -68,23 +70,26 @@ bool isQtCompatible(const QString &plugin, const QString &panel)
 QString tagSentence(const QString &file, const PluginTag &tag, const PluginTag &own)
 {
     if (!isPlainName(tag.name))
-        return tr("%1 has a name in its tag that is not a plain word: name it with letters, "
-                  "digits, "
-                  "\"_\" and \"-\" in zeplet_add_plugin().")
+        return Texts::tr("%1 has a name in its tag that is not a plain word: name it with letters, "
+                         "digits, "
+                         "\"_\" and \"-\" in zeplet_add_plugin().")
             .arg(file);
     if (tag.architecture != own.architecture)
-        return tr("%1 was built for %2 and this panel is %3: build it for %3.")
+        return Texts::tr("%1 was built for %2 and this panel is %3: build it for %3.")
             .arg(file, tag.architecture, own.architecture);
     if (!isLibraryCompatible(tag.library, own.library))
-        return tr("%1 was built against version %2 of the plugin library and this panel has %3: "
-                  "build it against %3.")
+        return Texts::tr(
+                   "%1 was built against version %2 of the plugin library and this panel has %3: "
+                   "build it against %3.")
             .arg(file, tag.library, own.library);
     if (!isQtCompatible(tag.qt, own.qt))
-        return tr("%1 was built against Qt %2 and this panel has Qt %3: build it against Qt %3.")
+        return Texts::tr(
+                   "%1 was built against Qt %2 and this panel has Qt %3: build it against Qt %3.")
             .arg(file, tag.qt, own.qt);
     if (tag.compiler != own.compiler)
-        return tr("%1 was built with the compiler interface %2 and this panel uses %3: build it "
-                  "with %3.")
+        return Texts::tr(
+                   "%1 was built with the compiler interface %2 and this panel uses %3: build it "
+                   "with %3.")
             .arg(file, tag.compiler, own.compiler);
     return QString();
 }
@@ -122,10 +127,11 @@ PluginRecord checkPlugin(const QFileInfo &info)
     if (!info.isFile())
         return refused(
             record,
-            tr("%1 is not a plain file: put a plugin library there, or remove it.").arg(name));
+            Texts::tr("%1 is not a plain file: put a plugin library there, or remove it.")
+                .arg(name));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return refused(record,
-                       tr("%1 can't be read (%2): check the file's permissions.")
+                       Texts::tr("%1 can't be read (%2): check the file's permissions.")
                            .arg(name, file.errorString()));
 
     const ElfSection section = readElfSection(file, pluginTagSection);
@@ -134,8 +140,8 @@ PluginRecord checkPlugin(const QFileInfo &info)
     const auto tag = PluginTag::parse(section.content);
     if (!tag)
         return refused(record,
-                       tr("%1 has a damaged plugin tag: build it again with "
-                          "zeplet_add_plugin().")
+                       Texts::tr("%1 has a damaged plugin tag: build it again with "
+                                 "zeplet_add_plugin().")
                            .arg(name));
     record.tag = *tag;
     const QString sentence = tagSentence(name, *tag, PluginTag::own());
@@ -146,19 +152,21 @@ QString linkerSentence(const QString &fileName, const QString &linkerMessage)
 {
     const QString symbol = firstMatch(linkerMessage, "undefined symbol: ([^\\s,)]+)");
     if (!symbol.isEmpty())
-        return tr("%1 uses %2, which no library of this panel has: link the library that defines "
-                  "it.")
+        return Texts::tr(
+                   "%1 uses %2, which no library of this panel has: link the library that defines "
+                   "it.")
             .arg(fileName, demangled(symbol));
     const QString library
         = firstMatch(linkerMessage, "([^\\s(]+): cannot open shared object file: No such file");
     if (!library.isEmpty())
-        return tr("%1 needs the library %2, which this panel lacks: install %2.")
+        return Texts::tr("%1 needs the library %2, which this panel lacks: install %2.")
             .arg(fileName, library);
     const QString version = firstMatch(linkerMessage, "version `([^']+)' not found");
     if (!version.isEmpty())
-        return tr("%1 needs %2, which is newer than this panel's: build it on the panel's system.")
+        return Texts::tr(
+                   "%1 needs %2, which is newer than this panel's: build it on the panel's system.")
             .arg(fileName, version);
-    return tr("%1 can't be opened (%2): build it again for this panel.")
+    return Texts::tr("%1 can't be opened (%2): build it again for this panel.")
         .arg(fileName, linkerMessage.simplified());
 }
 

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QLibrary>
+#include <brisa/languagemanager.h>
 #include <brisa/managerhelper.h>
 #include <kest/modulefactory.h>
 #include <locale.h>
@@ -129,6 +130,7 @@ void PluginLoader::open(PluginRecord *record)
     m_guard.enterLoading(record->tag.name, path);
     const QString error = openLibrary(path);
     m_guard.leave();
+    brisa::LanguageManager::instance()->loadLibraries(); // what it says from now on is translated
     if (error.isEmpty())
         takeModules(record, newModules());
     else

@@ -62,6 +62,15 @@ ThemeColours darkColours()
     return c;
 }
 
+/** What the first one lacks comes from the first of the others that is installed: Chinese. */
+const QStringList &families()
+{
+    static const QStringList names {
+        QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans CJK SC"),
+        QStringLiteral("Droid Sans Fallback"), QStringLiteral("WenQuanYi Micro Hei")};
+    return names;
+}
+
 } // namespace
 
 ThemeManager::ThemeManager(QObject *parent)
@@ -153,7 +162,8 @@ QPalette ThemeManager::palette() const
 
 QFont ThemeManager::font(TextSize size, bool bold)
 {
-    QFont font(QStringLiteral("DejaVu Sans"));
+    QFont font;
+    font.setFamilies(families());
     font.setPixelSize(static_cast<int>(size));
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -21,6 +21,12 @@ namespace qo
 namespace kivra
 {
 
+/*
+ * Titles of entries and groups, labels of keys and names of their pages are English texts that the
+ * module marks with QT_TRANSLATE_NOOP("navigation", ...): the host shows them in the language of
+ * the panel, as far as a catalogue has them in that context, and else as they are.
+ */
+
 /**
  * Enters a page into the navigation tree "kivra.page" below the dotted parent ("robot.pack" is
  * kivra.page.robot.page.pack) and returns its node, whose child "nav" links it to a centre page.

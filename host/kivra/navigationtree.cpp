@@ -1,7 +1,9 @@
 #include "kivra/navigationtree_p.h"
 
+#include "brisa/languagemanager.h"
 #include "ostrel/moduleobject.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <memory>
@@ -36,7 +38,7 @@ QString step(int index)
 
 NavigationEntry entryFromJson(const QJsonObject &json)
 {
-    return {json.value(QLatin1String("title")).toString(),
+    return {inPanelLanguage(json.value(QLatin1String("title")).toString()),
             json.value(QLatin1String("icon")).toString(),
             json.value(QLatin1String("nav")).toString()};
 }
@@ -56,6 +58,18 @@ void insertEntry(QObject *origin, ostrel::ModuleObject *list, int at, const QJso
 }
 
 } // namespace
+
+QString inPanelLanguage(const QString &title)
+{
+    return title.isEmpty() ? title
+                           : QCoreApplication::translate("navigation", title.toUtf8().constData());
+}
+
+NavigationTree::NavigationTree()
+{
+    connect(brisa::LanguageManager::instance(), &brisa::LanguageManager::languageChanged, this,
+            &NavigationTree::schedule);
+}
 
 // Lives to the end of the process, like the store that it watches.
 NavigationTree &NavigationTree::instance()
@@ -93,7 +107,8 @@ QVector<NavigationGroup> NavigationTree::groups() const
     QVector<NavigationGroup> groups;
     for (const QString &parent : m_parents) {
         NavigationGroup group;
-        group.title = m(groupKey(parent))->getStr(QStringLiteral("title"), QString());
+        group.title
+            = inPanelLanguage(m(groupKey(parent))->getStr(QStringLiteral("title"), QString()));
         const QJsonArray pages = pageList(parent)->exportToJson(true).toArray();
         for (const QJsonValue &page : pages)
             group.entries.append(entryFromJson(page.toObject()));
@@ -111,7 +126,7 @@ QString NavigationTree::titleOf(QObject *module) const
     const QJsonArray pages = pageList(first.parent)->exportToJson(true).toArray();
     for (const QJsonValue &page : pages) {
         if (page.toObject().value(QLatin1String("id")).toString() == first.id)
-            return page.toObject().value(QLatin1String("title")).toString();
+            return entryFromJson(page.toObject()).title;
     }
     return {};
 }

@@ -35,6 +35,9 @@ struct NavigationGroup {
     }
 };
 
+/** A title or a key's label, which modules give in English, in the language of the panel. */
+QString inPanelLanguage(const QString &title);
+
 /**
  * The navigation tree in the data store: it enters pages, withdraws those of modules that go, and
  * says when what the store holds may have changed, whoever changed it.
@@ -53,9 +56,11 @@ public:
                                   const QString &icon, int index);
     void addGroup(const QString &parent, const QString &title);
 
-    /** What the store holds now, groups in the order in which their parents were first named. */
+    /** What the store holds now, titles in the language of the panel, groups in the order in which
+     * their parents were first named. */
     QVector<NavigationGroup> groups() const;
-    /** The title of the module's first entry; empty for a module without one. */
+    /** The title of the module's first entry, in the language of the panel; empty for a module
+     * without one. */
     QString titleOf(QObject *module) const;
 
 Q_SIGNALS:
@@ -68,7 +73,7 @@ private:
         QString id;
     };
 
-    NavigationTree() = default;
+    NavigationTree();
     void watchGroup(const QString &parent);
     void watchEntries(const QString &parent);
     void removeOwnedBy(QObject *module);

@@ -1,6 +1,7 @@
 #include "kivra/physicalbuttonbar.h"
 
 #include "brisa/glyph.h"
+#include "brisa/languagemanager.h"
 #include "brisa/thememanager.h"
 #include "brisa/touchscrollarea_p.h"
 #include "kest/bmodule.h"
@@ -35,9 +36,9 @@ QString titleOf(const KeyPage &page)
 {
     const auto *const module = qobject_cast<const kest::BModule *>(page.module);
     if (!module || module->mobjKey().section(QLatin1Char('.'), 2) != page.name)
-        return page.name;
+        return inPanelLanguage(page.name);
     const QString title = NavigationTree::instance().titleOf(page.module);
-    return title.isEmpty() ? page.name : title;
+    return title.isEmpty() ? inPanelLanguage(page.name) : title;
 }
 } // namespace
 
@@ -53,6 +54,8 @@ PhysicalButtonBar::PhysicalButtonBar(Qt::Orientation orientation, QWidget *paren
     connect(&PhysicalButtonRegistry::instance(), &PhysicalButtonRegistry::changed, this,
             &PhysicalButtonBar::scheduleRefresh);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this,
+            &PhysicalButtonBar::scheduleRefresh);
+    connect(brisa::LanguageManager::instance(), &brisa::LanguageManager::languageChanged, this,
             &PhysicalButtonBar::scheduleRefresh);
     connect(instantiatedCenterWidget(), &kest::CenterWidget::currentKeyChanged, this,
             &PhysicalButtonBar::followCentre);

@@ -1,6 +1,7 @@
 #include "kivra/physicalbuttonregistry_p.h"
 
 #include "brisa/managerhelper.h"
+#include "kivra/navigationtree_p.h"
 
 #include <exception>
 
@@ -14,9 +15,9 @@ namespace
 
 void reportFailure(QObject *module, const QString &label, const QString &problem)
 {
-    brisa::ManagerHelper::throwLog(
-        module, QStringLiteral("error"),
-        PhysicalButtonRegistry::tr("The key \"%1\" failed: %2").arg(label, problem));
+    brisa::ManagerHelper::throwLog(module, QStringLiteral("error"),
+                                   PhysicalButtonRegistry::tr("The key \"%1\" failed: %2")
+                                       .arg(inPanelLanguage(label), problem));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "kivra/physicalkey_p.h"
 
 #include "brisa/thememanager.h"
+#include "kivra/navigationtree_p.h"
 
 #include <QPainter>
 
@@ -29,7 +30,7 @@ PhysicalKey::PhysicalKey(const KeyPagePtr &page, int row, int column, QWidget *p
     , m_row(row)
     , m_column(column)
 {
-    setText(page->rows[row].at(column).label);
+    setText(inPanelLanguage(page->rows[row].at(column).label));
     setFont(ThemeManager::font(brisa::TextSize::Body));
     setMinimumSize(metrics::Touch, metrics::Touch);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

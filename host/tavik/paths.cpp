@@ -22,10 +22,9 @@ namespace
 
 constexpr qint64 mebibyte = 1048576;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("tavik", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(tavik)
+};
 
 /** Opens it without following a link and without waiting for a pipe's other end. */
 int openPlainFile(const QString &path, QString *problem)
@@ -33,14 +32,14 @@ int openPlainFile(const QString &path, QString *problem)
     const int handle = ::open(QFile::encodeName(path).constData(),
                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (handle < 0 && errno == ELOOP)
-        *problem = tr("it is a symbolic link");
+        *problem = Texts::tr("it is a symbolic link");
     else if (handle < 0 && errno != ENOENT)
         *problem = qt_error_string(errno);
     struct stat info = {};
     if (handle < 0 || (::fstat(handle, &info) == 0 && S_ISREG(info.st_mode)))
         return handle;
     ::close(handle);
-    *problem = tr("it is no plain file");
+    *problem = Texts::tr("it is no plain file");
     return -1;
 }
 
@@ -80,7 +79,7 @@ bool readPlainFile(const QString &path, qint64 limit, QByteArray *content, QStri
     QFile file;
     file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     if (file.size() > limit) {
-        *problem = tr("it is larger than %1 MiB").arg(limit / mebibyte);
+        *problem = Texts::tr("it is larger than %1 MiB").arg(limit / mebibyte);
         return false;
     }
     *content = file.readAll();
@@ -98,7 +97,7 @@ bool readSmallObject(const QString &path, QJsonObject *object, QString *problem)
     const QJsonDocument document = QJsonDocument::fromJson(content);
     *object = document.object();
     if (!document.isObject())
-        *problem = tr("it holds no JSON object");
+        *problem = Texts::tr("it holds no JSON object");
     return document.isObject();
 }
 

@@ -17,10 +17,9 @@ namespace
 constexpr qint64 largestFile = qint64(128) * 1024 * 1024;
 const QLatin1String supportedVersion("0.2");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("tavik", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(tavik)
+};
 
 bool isText(const Node &node)
 {
@@ -87,7 +86,7 @@ bool checkFields(const Field (&fields)[count], const Node &node, QString *proble
         const Node *found = member(node, field.name);
         if (!found || found->kind() == Node::Kind::Empty || field.check(*found))
             continue;
-        *problem = tr("its \"%1\" is of a wrong kind").arg(QLatin1String(field.name));
+        *problem = Texts::tr("its \"%1\" is of a wrong kind").arg(QLatin1String(field.name));
         return false;
     }
     return true;
@@ -97,7 +96,7 @@ bool checkElement(const Node &element, QString *problem)
 {
     if (element.kind() == Node::Kind::Empty)
         return true;
-    *problem = tr("an element is no object");
+    *problem = Texts::tr("an element is no object");
     return isObject(element) && checkFields(elementFields, element, problem);
 }
 
@@ -123,10 +122,10 @@ bool checkRecords(const RecordFile &file, const Node &records, QString *problem)
 {
     for (int i = 0; i < records.childCount(); ++i) {
         const Node &record = *records.childAt(i);
-        QString fault = tr("it is no object");
+        QString fault = Texts::tr("it is no object");
         if (isObject(record) && file.checkRecord(record, &fault))
             continue;
-        *problem = tr("record %1 of \"%2\": %3")
+        *problem = Texts::tr("record %1 of \"%2\": %3")
                        .arg(QString::number(i + 1), QLatin1String(file.member), fault);
         return false;
     }
@@ -139,14 +138,14 @@ Node *findRecords(const RecordFile &file, const Node &document, QString *problem
     const Node *version = member(document, "version");
     const Node *records = member(document, file.member);
     if (!isObject(document))
-        *problem = tr("it holds no JSON object");
+        *problem = Texts::tr("it holds no JSON object");
     else if (!version || !isText(*version))
-        *problem = tr("it has no version");
+        *problem = Texts::tr("it has no version");
     else if (version->string() != supportedVersion)
-        *problem = tr("its version is \"%1\", this panel reads \"%2\"")
+        *problem = Texts::tr("its version is \"%1\", this panel reads \"%2\"")
                        .arg(version->string().left(20), supportedVersion);
     else if (!records || !records->isList())
-        *problem = tr("it has no list \"%1\"").arg(QLatin1String(file.member));
+        *problem = Texts::tr("it has no list \"%1\"").arg(QLatin1String(file.member));
     else if (checkRecords(file, *records, problem))
         return const_cast<Node *>(records);
     return nullptr;
@@ -175,7 +174,7 @@ ReadResult readRecords(const RecordFile &file, const QString &path, Node *record
     Node document;
     QString error;
     if (!ostrel::parseJsonText(text, &document, &error)) {
-        *problem = tr("it is no JSON (%1)").arg(error);
+        *problem = Texts::tr("it is no JSON (%1)").arg(error);
         return ReadResult::Damaged;
     }
     Node *found = findRecords(file, document, problem);

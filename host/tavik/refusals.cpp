@@ -45,18 +45,17 @@ constexpr Request requests[] = {
                        "Remove the cause, then open the project again.")},
 };
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("tavik", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(tavik)
+};
 
 /** The usual cause is worth naming. */
 QString adviceFor(const Request &request)
 {
     const bool start = request.command == QLatin1String("rl_program.start");
     if (start && m(QStringLiteral("brisa.r.power"))->getStr(QString()) == QLatin1String("off"))
-        return tr("Switch the motors on, then press Start again.");
-    return tr(request.advice);
+        return Texts::tr("Switch the motors on, then press Start again.");
+    return Texts::tr(request.advice);
 }
 
 } // namespace
@@ -67,12 +66,13 @@ QString failureSentence(const QString &command, const QString &reason, bool refu
         if (command != QLatin1String(request.command))
             continue;
         if (refused)
-            return tr("%1 was refused: %2. %3")
-                .arg(tr(request.subject), reason, adviceFor(request));
-        return tr("%1 was not confirmed: %2. It may have been carried out: look at the robot "
-                  "before "
-                  "you try again.")
-            .arg(tr(request.subject), reason);
+            return Texts::tr("%1 was refused: %2. %3")
+                .arg(Texts::tr(request.subject), reason, adviceFor(request));
+        return Texts::tr(
+                   "%1 was not confirmed: %2. It may have been carried out: look at the robot "
+                   "before "
+                   "you try again.")
+            .arg(Texts::tr(request.subject), reason);
     }
     return QString();
 }

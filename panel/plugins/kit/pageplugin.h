@@ -41,12 +41,13 @@ private:
 };
 
 /** Registers the plugin PageClass::pluginName() with that page. icon: a pictogram of the host by
- * its name; label: read when the plugin is made. For a static initialiser. */
+ * its name; label: for the navigation, in English and marked with QT_TRANSLATE_NOOP("navigation",
+ * ...). For a static initialiser. */
 template <typename PageClass>
-bool registerPage(const char *icon, QString (*label)())
+bool registerPage(const char *icon, const char *label)
 {
     zeplet::zepletFactory().regist(PageClass::pluginName(), [=](QObject *parent) {
-        return new PagePlugin(parent, label(), QString::fromLatin1(icon),
+        return new PagePlugin(parent, QString::fromUtf8(label), QString::fromLatin1(icon),
                               [] { return new PageClass; });
     });
     return true;

@@ -13,10 +13,9 @@ namespace pointedits
 namespace
 {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("pointedits", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(points)
+};
 
 bool exists(const QString &name)
 {
@@ -29,42 +28,43 @@ QString called(const Point &point, const QString &index)
     return point.elements.size() > 1 ? point.name + ' ' + index : point.name;
 }
 
-Outcome done(const char *sentence, const QString &name)
+Outcome done(const QString &sentence, const QString &name)
 {
-    return {Outcome::Done, text(sentence).arg(name)};
+    return {Outcome::Done, sentence.arg(name)};
 }
 
-Outcome refused(const char *sentence, const QString &name)
+Outcome refused(const QString &sentence, const QString &name)
 {
-    return {Outcome::Refused, text(sentence).arg(name)};
+    return {Outcome::Refused, sentence.arg(name)};
 }
 
 Outcome unsaved(const QString &name)
 {
-    return {
-        Outcome::Unsaved,
-        text("\"%1\" is changed on this panel but not on the controller: check the link and the "
-             "panel's disk, then save again.")
-            .arg(name)};
+    return {Outcome::Unsaved,
+            Texts::tr(
+                "\"%1\" is changed on this panel but not on the controller: check the link and the "
+                "panel's disk, then save again.")
+                .arg(name)};
 }
 
 Outcome noLink()
 {
-    return {
-        Outcome::Refused,
-        text("There is no link to the controller, and nothing was changed: try again when it is "
-             "connected.")};
+    return {Outcome::Refused,
+            Texts::tr(
+                "There is no link to the controller, and nothing was changed: try again when it is "
+                "connected.")};
 }
 
 Outcome gone(const QString &name)
 {
-    return refused("The point \"%1\" is no longer in the project, and nothing was changed: choose "
-                   "another one.",
-                   name);
+    return refused(
+        Texts::tr("The point \"%1\" is no longer in the project, and nothing was changed: choose "
+                  "another one."),
+        name);
 }
 
 // The controller takes an element of a persistent array at once, or refuses it.
-Outcome edited(bool succeeded, const char *sentence, const Point &point, const QString &index)
+Outcome edited(bool succeeded, const QString &sentence, const Point &point, const QString &index)
 {
     if (succeeded)
         return done(sentence, called(point, index));
@@ -73,8 +73,9 @@ Outcome edited(bool succeeded, const char *sentence, const Point &point, const Q
     if (!point.persistent || index == firstElement)
         return unsaved(called(point, index));
     return {Outcome::Unsaved,
-            text("\"%1\" is changed on this panel, but the controller did not take it, or it could "
-                 "not be saved: check the link and the panel's disk, then save again.")
+            Texts::tr(
+                "\"%1\" is changed on this panel, but the controller did not take it, or it could "
+                "not be saved: check the link and the panel's disk, then save again.")
                 .arg(called(point, index))};
 }
 
@@ -88,9 +89,10 @@ QJsonObject askPosition(const Teaching &teaching)
 
 Outcome noPosition(const QString &name)
 {
-    return refused("The controller did not tell where the robot is, and nothing was taught to "
-                   "\"%1\": check that it knows the tool and the work object, and try again.",
-                   name);
+    return refused(
+        Texts::tr("The controller did not tell where the robot is, and nothing was taught to "
+                  "\"%1\": check that it knows the tool and the work object, and try again."),
+        name);
 }
 
 // The property follows what is written by value.
@@ -111,17 +113,18 @@ Outcome teachNew(const QString &name, bool persistent, const Teaching &teaching)
     if (!zepletInterface()->getRobotConnected())
         return noLink();
     if (exists(name))
-        return refused("There is a point \"%1\" already: choose another name, or teach that one.",
-                       name);
+        return refused(
+            Texts::tr("There is a point \"%1\" already: choose another name, or teach that one."),
+            name);
     const QJsonObject element = askPosition(teaching);
     if (element.isEmpty())
         return noPosition(name);
     if (!zepletInterface()->createPoint(name, teaching.joint, persistent) && !exists(name))
-        return refused("The point \"%1\" could not be made: choose another name.", name);
+        return refused(Texts::tr("The point \"%1\" could not be made: choose another name."), name);
     // Made is made: only the last save counts, which takes everything.
     if (!zepletInterface()->setPointElementJson(name, firstElement, element))
         return unsaved(name);
-    return done("\"%1\" is taught.", name);
+    return done(Texts::tr("\"%1\" is taught."), name);
 }
 
 Outcome teach(const Point &point, const QString &index, const Teaching &teaching)
@@ -136,7 +139,7 @@ Outcome teach(const Point &point, const QString &index, const Teaching &teaching
     bool saved = zepletInterface()->setPointElementJson(point.name, index, element);
     if (teaching.joint != point.joint)
         saved = changeKind(point, index, teaching.joint);
-    return edited(saved, "\"%1\" is taught.", point, index);
+    return edited(saved, Texts::tr("\"%1\" is taught."), point, index);
 }
 
 Outcome setValues(const Point &point, const QString &index, const QVector<double> &values)
@@ -147,7 +150,7 @@ Outcome setValues(const Point &point, const QString &index, const QVector<double
         return gone(called(point, index));
     const bool saved = point.joint ? zepletInterface()->setPointJointData(point.name, values, index)
                                    : zepletInterface()->setPointCartData(point.name, values, index);
-    return edited(saved, "\"%1\" has its new values.", point, index);
+    return edited(saved, Texts::tr("\"%1\" has its new values."), point, index);
 }
 
 Outcome addElement(const Point &point, const QString &index)
@@ -157,7 +160,8 @@ Outcome addElement(const Point &point, const QString &index)
     const bool saved = zepletInterface()->ensurePointElement(point.name, index);
     const QString name = point.name + ' ' + index;
     if (saved)
-        return done("\"%1\" is a copy of the first element: teach it its own position.", name);
+        return done(Texts::tr("\"%1\" is a copy of the first element: teach it its own position."),
+                    name);
     return exists(point.name) ? unsaved(name) : gone(point.name);
 }
 
@@ -169,7 +173,7 @@ Outcome removeElement(const Point &point, const QString &index)
         return noLink();
     const QString name = called(point, index);
     if (zepletInterface()->removePointElement(point.name, index))
-        return done("\"%1\" is deleted.", name);
+        return done(Texts::tr("\"%1\" is deleted."), name);
     return zepletInterface()->getPointValueIndexList(point.name).contains(index) ? gone(name)
                                                                                  : unsaved(name);
 }
@@ -181,34 +185,37 @@ Outcome remove(const Point &point)
     if (!exists(point.name))
         return gone(point.name);
     if (zepletInterface()->removePoint(point.name))
-        return done("\"%1\" is deleted.", point.name);
+        return done(Texts::tr("\"%1\" is deleted."), point.name);
     if (!exists(point.name))
         return unsaved(point.name);
-    return refused("The controller did not let go of \"%1\", and it stays: a program may use it. "
-                   "Stop the program, check the link, and try again.",
-                   point.name);
+    return refused(
+        Texts::tr("The controller did not let go of \"%1\", and it stays: a program may use it. "
+                  "Stop the program, check the link, and try again."),
+        point.name);
 }
 
 Outcome save()
 {
     if (!zepletInterface()->getRobotConnected())
         return {Outcome::Unsaved,
-                text("There is no link to the controller: save again when it is connected.")};
+                Texts::tr("There is no link to the controller: save again when it is connected.")};
     if (zeplet::saveAndPushPoint())
-        return {Outcome::Done, text("All points are saved on the panel and on the controller.")};
+        return {Outcome::Done,
+                Texts::tr("All points are saved on the panel and on the controller.")};
     return {Outcome::Unsaved,
-            text("The points could not be saved: check the network to the controller and the "
-                 "space on the panel's disk, then save again.")};
+            Texts::tr("The points could not be saved: check the network to the controller and the "
+                      "space on the panel's disk, then save again.")};
 }
 
 QString nameRefusal(const QString &name, const QVector<Point> &points)
 {
     const QString trimmed = name.trimmed();
     if (trimmed.isEmpty())
-        return text("The point needs a name.");
+        return Texts::tr("The point needs a name.");
     for (const Point &point : points) {
         if (point.name.compare(trimmed, Qt::CaseInsensitive) == 0)
-            return text("There is a point \"%1\" already: choose another name, or teach that one.")
+            return Texts::tr(
+                       "There is a point \"%1\" already: choose another name, or teach that one.")
                 .arg(point.name);
     }
     return QString();

@@ -24,10 +24,9 @@ namespace
 
 constexpr int MostIndex = 9999;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("pointforms", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(points)
+};
 
 /** Fields side by side, each below its caption. */
 class Fields
@@ -99,15 +98,15 @@ TeachingFields addTeaching(kit::Form *form, bool joint, const QString &tool, con
 {
     const TeachingFields fields {
         makeChoice("teachKind",
-                   {text("Cartesian: the tool's pose"), text("Joint: each axis' angle")},
+                   {Texts::tr("Cartesian: the tool's pose"), Texts::tr("Joint: each axis' angle")},
                    QString()),
         makeChoice("teachTool", withoutDoubles(zepletInterface()->getToolList(), tool), tool),
         makeChoice("teachWobj", withoutDoubles(zepletInterface()->getWobjList(), wobj), wobj)};
     fields.kind->setCurrentIndex(joint ? 1 : 0);
-    form->addField(text("Kind"), fields.kind);
+    form->addField(Texts::tr("Kind"), fields.kind);
     Fields frames(2);
-    frames.add(text("Tool"), fields.tool);
-    frames.add(text("Work object"), fields.wobj);
+    frames.add(Texts::tr("Tool"), fields.tool);
+    frames.add(Texts::tr("Work object"), fields.wobj);
     form->addField(QString(), frames.box());
     return fields;
 }
@@ -146,7 +145,7 @@ QString limitRefusal(const QVector<QLineEdit *> &edits,
     for (int i = 0; i < qMin(edits.size(), limits.size()); ++i) {
         const double value = numberIn(edits.at(i));
         if (value < limits.at(i).first || value > limits.at(i).second)
-            return text("Axis J%1 goes from %2° to %3°: choose an angle between them.")
+            return Texts::tr("Axis J%1 goes from %2° to %3°: choose an angle between them.")
                 .arg(QString::number(i + 1), QString::number(limits.at(i).first),
                      QString::number(limits.at(i).second));
     }
@@ -158,12 +157,12 @@ QString limitRefusal(const QVector<QLineEdit *> &edits,
 void askForNew(kit::Page *page, const QVector<Point> &points,
                std::function<void(const QString &name, bool persistent, const Teaching &)> accepted)
 {
-    auto *const form = new kit::Form(page, text("Teach a new point"), text("Teach"));
-    const QLineEdit *const name = form->addText(text("Name"), QStringLiteral("pointName"));
+    auto *const form = new kit::Form(page, Texts::tr("Teach a new point"), Texts::tr("Teach"));
+    const QLineEdit *const name = form->addText(Texts::tr("Name"), QStringLiteral("pointName"));
     const TeachingFields fields = addTeaching(form, false, zepletInterface()->getCurTool(),
                                               zepletInterface()->getCurWobj());
     const QCheckBox *const persistent = form->addCheck(
-        text("Persistent: programs keep its changes"), QStringLiteral("pointPersistent"));
+        Texts::tr("Persistent: programs keep its changes"), QStringLiteral("pointPersistent"));
     form->setValidation([=] { return pointedits::nameRefusal(name->text(), points); });
     form->onAccepted(
         [=] { accepted(name->text().trimmed(), persistent->isChecked(), fields.read()); });
@@ -175,13 +174,14 @@ void askToTeach(kit::Page *page, const Point &point, const Element &element,
 {
     const bool isArray = point.elements.size() > 1;
     auto *const form = new kit::Form(
-        page, text("Teach \"%1\"").arg(isArray ? point.name + ' ' + element.index : point.name),
-        text("Teach"));
+        page,
+        Texts::tr("Teach \"%1\"").arg(isArray ? point.name + ' ' + element.index : point.name),
+        Texts::tr("Teach"));
     const auto or_ = [](const QString &own, const QString &selected) {
         return own.isEmpty() ? selected : own;
     };
     form->Overlay::addParagraph(
-        text("Its old position is replaced by the one where the robot is now."));
+        Texts::tr("Its old position is replaced by the one where the robot is now."));
     const TeachingFields fields
         = addTeaching(form, point.joint, or_(element.tool, zepletInterface()->getCurTool()),
                       or_(element.wobj, zepletInterface()->getCurWobj()));
@@ -196,8 +196,9 @@ void askForValues(kit::Page *page, const Point &point, const Element &element,
 {
     const bool isArray = point.elements.size() > 1;
     auto *const form = new kit::Form(
-        page, text("Values of \"%1\"").arg(isArray ? point.name + ' ' + element.index : point.name),
-        text("Save"));
+        page,
+        Texts::tr("Values of \"%1\"").arg(isArray ? point.name + ' ' + element.index : point.name),
+        Texts::tr("Save"));
     const QStringList names = valueNames(point.joint);
     const QVector<double> values = point.joint ? element.joints : element.pose;
     Fields grid(point.joint ? 4 : 3);
@@ -212,7 +213,7 @@ void askForValues(kit::Page *page, const Point &point, const Element &element,
     form->setValidation([=] {
         for (int i = 0; i < edits.size(); ++i) {
             if (!std::isfinite(numberIn(edits.at(i))))
-                return text("%1: a number is needed, with a point before its decimals: 12.5")
+                return Texts::tr("%1: a number is needed, with a point before its decimals: 12.5")
                     .arg(names.at(i).section(' ', 0, 0));
         }
         return limitRefusal(edits, checked);
@@ -229,12 +230,13 @@ void askForValues(kit::Page *page, const Point &point, const Element &element,
 void askForIndex(kit::Page *page, const Point &point,
                  std::function<void(const QString &index)> accepted)
 {
-    auto *const form
-        = new kit::Form(page, text("Add an element to \"%1\"").arg(point.name), text("Add"));
+    auto *const form = new kit::Form(page, Texts::tr("Add an element to \"%1\"").arg(point.name),
+                                     Texts::tr("Add"));
     const QVector<int> next = nextIndex(point);
     Fields grid(3);
     QVector<QLineEdit *> edits;
-    const QStringList captions {text("First index"), text("Second index"), text("Third index")};
+    const QStringList captions {Texts::tr("First index"), Texts::tr("Second index"),
+                                Texts::tr("Third index")};
     for (int i = 0; i < captions.size(); ++i) {
         edits.append(
             makeNumber(form, QStringLiteral("index%1").arg(i), QString::number(next.at(i))));
@@ -252,10 +254,10 @@ void askForIndex(kit::Page *page, const Point &point,
             bool isNumber = false;
             const int number = edit->text().toInt(&isNumber);
             if (!isNumber || number < 0 || number > MostIndex)
-                return text("An index is a whole number from 0 to 9999.");
+                return Texts::tr("An index is a whole number from 0 to 9999.");
         }
         return point.element(index())
-            ? text("The element %1 is there already: choose another index.").arg(index())
+            ? Texts::tr("The element %1 is there already: choose another index.").arg(index())
             : QString();
     });
     form->onAccepted([=] { accepted(index()); });

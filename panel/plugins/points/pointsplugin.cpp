@@ -5,6 +5,6 @@ namespace
 {
 
 [[maybe_unused]] const bool registered
-    = kit::registerPage<PointsPage>("target", [] { return PointsPage::tr("Points"); });
+    = kit::registerPage<PointsPage>("target", QT_TRANSLATE_NOOP("navigation", "Points"));
 
 } // namespace

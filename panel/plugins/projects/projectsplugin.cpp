@@ -5,6 +5,6 @@ namespace
 {
 
 [[maybe_unused]] const bool registered
-    = kit::registerPage<ProjectsPage>("folder", [] { return ProjectsPage::tr("Projects"); });
+    = kit::registerPage<ProjectsPage>("folder", QT_TRANSLATE_NOOP("navigation", "Projects"));
 
 } // namespace

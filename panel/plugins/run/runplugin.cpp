@@ -5,6 +5,6 @@ namespace
 {
 
 [[maybe_unused]] const bool registered
-    = kit::registerPage<RunPage>("play", [] { return RunPage::tr("Run"); });
+    = kit::registerPage<RunPage>("play", QT_TRANSLATE_NOOP("navigation", "Run"));
 
 } // namespace

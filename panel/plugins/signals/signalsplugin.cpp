@@ -5,6 +5,6 @@ namespace
 {
 
 [[maybe_unused]] const bool registered
-    = kit::registerPage<SignalsPage>("lamp", [] { return SignalsPage::tr("Signals"); });
+    = kit::registerPage<SignalsPage>("lamp", QT_TRANSLATE_NOOP("navigation", "Signals"));
 
 } // namespace

@@ -44,7 +44,7 @@ void destroyBusWithPanel()
 SystemPlugin::SystemPlugin(QObject *parent)
     : PluginBase(parent)
 {
-    setPluginLabel(tr("Overview"));
+    setPluginLabel(QT_TRANSLATE_NOOP("navigation", "Overview"));
     destroyBusWithPanel();
 }
 

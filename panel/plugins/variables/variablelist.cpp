@@ -11,10 +11,9 @@
 namespace
 {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("variables", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(variables)
+};
 
 Variable variableOf(const QJsonObject &record)
 {
@@ -65,19 +64,19 @@ QString kindName(VariableKind kind)
 {
     switch (kind) {
     case VariableKind::Integer:
-        return text("Whole number");
+        return Texts::tr("Whole number");
     case VariableKind::Number:
-        return text("Number");
+        return Texts::tr("Number");
     case VariableKind::Text:
-        return text("Text");
+        return Texts::tr("Text");
     case VariableKind::Flag:
-        return text("Flag");
+        return Texts::tr("Flag");
     case VariableKind::Connection:
-        return text("Connection");
+        return Texts::tr("Connection");
     case VariableKind::Other:
         break;
     }
-    return text("Other");
+    return Texts::tr("Other");
 }
 
 bool canBeChanged(VariableKind kind)
@@ -88,7 +87,7 @@ bool canBeChanged(VariableKind kind)
 QString valueText(const QJsonValue &value)
 {
     if (value.isBool())
-        return value.toBool() ? text("true") : text("false");
+        return value.toBool() ? Texts::tr("true") : Texts::tr("false");
     if (value.isString())
         return value.toString().simplified();
     if (value.isDouble())
@@ -106,14 +105,14 @@ QVariant valueFrom(const QString &written, VariableKind kind, QString *refusal)
     QVariant value = written;
     if (kind == VariableKind::Integer) {
         value = QLocale::c().toInt(written.trimmed(), &fits);
-        *refusal = text("A whole number is needed, from -2147483648 to 2147483647.");
+        *refusal = Texts::tr("A whole number is needed, from -2147483648 to 2147483647.");
     } else if (kind == VariableKind::Number) {
         const double number = QLocale::c().toDouble(written.trimmed(), &fits);
         value = number;
         fits = fits && std::isfinite(number);
-        *refusal = text("A number is needed, with a point before its decimals: 12.5");
+        *refusal = Texts::tr("A number is needed, with a point before its decimals: 12.5");
     } else if (kind == VariableKind::Flag) {
-        value = written == text("true");
+        value = written == Texts::tr("true");
     }
     if (!fits)
         return QVariant();

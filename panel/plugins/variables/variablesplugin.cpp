@@ -5,6 +5,6 @@ namespace
 {
 
 [[maybe_unused]] const bool registered
-    = kit::registerPage<VariablesPage>("variable", [] { return VariablesPage::tr("Variables"); });
+    = kit::registerPage<VariablesPage>("variable", QT_TRANSLATE_NOOP("navigation", "Variables"));
 
 } // namespace

@@ -1,5 +1,9 @@
-# What an installation holds: the library, its headers and package, and the reference host's where
-# this build made one. Private headers (*_p.h) stay here.
+# What an installation holds, by component:
+#   runtime      the library, and the reference host's where this build made one
+#   development  their headers and CMake packages. Private headers (*_p.h) stay here
+#   kit          what else an author needs: panel, simulator, examples' sources, documents, and all
+#                that other folders install without naming a component
+#   examples     the examples, built: an installed panel shows them
 include(CMakePackageConfigHelpers)
 
 set(ZEPLET_HOST_PACKAGE ZepletHost)
@@ -11,24 +15,26 @@ endif()
 function(zeplet_install_package package target)
     cmake_parse_arguments(ARG "" "HEADERS;INTO" "EXCEPT" ${ARGN})
     set(directory ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
-    install(TARGETS ${target} EXPORT ${package}Targets)
+    install(TARGETS ${target} EXPORT ${package}Targets
+            LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/${ARG_HEADERS}/
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO} COMPONENT development
             FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE ${ARG_EXCEPT})
     install(EXPORT ${package}Targets NAMESPACE Zeplet:: FILE ${package}Targets-export.cmake
-            DESTINATION ${directory})
+            DESTINATION ${directory} COMPONENT development)
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in
         ${PROJECT_BINARY_DIR}/${package}Config.cmake INSTALL_DESTINATION ${directory})
     write_basic_package_version_file(${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
     install(FILES ${PROJECT_BINARY_DIR}/${package}Config.cmake
-                  ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake DESTINATION ${directory})
+                  ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
+            DESTINATION ${directory} COMPONENT development)
 endfunction()
 
 zeplet_install_package(Zeplet zeplet HEADERS src INTO zeplet)
 # The plugin function and everything beside it that it needs.
 file(GLOB plugin_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ZepletPlugin*)
-install(FILES ${plugin_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet)
+install(FILES ${plugin_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet COMPONENT development)
 
 if(ZEPLET_HOST)
     return()
@@ -37,9 +43,9 @@ endif()
 zeplet_install_package(ZepletHost zeplet_host HEADERS host INTO zeplet-host
                        EXCEPT PATTERN link EXCLUDE)
 
-# The panel and the simulator, where they are built.
-foreach(program zeplet-panel zeplet-simulator)
-    if(TARGET ${program})
-        install(TARGETS ${program})
-    endif()
-endforeach()
+install(TARGETS zeplet-panel zeplet-simulator RUNTIME COMPONENT kit)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zeplet COMPONENT kit PATTERN build EXCLUDE
+        REGEX examples/CMakeLists.txt EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT kit
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN adr EXCLUDE)

@@ -11,7 +11,8 @@ if(ZEPLET_HOST)
     set(ZEPLET_HOST_PACKAGE ${ZEPLET_HOST})
 endif()
 
-# The library of a target with its public headers, and the package that finds them.
+# The library of a target with its public headers, and the package that finds them. The build tree
+# has the package, too, in the same place: a project that is given the tree as its prefix uses it.
 function(zeplet_install_package package target)
     cmake_parse_arguments(ARG "" "HEADERS;INTO" "EXCEPT" ${ARGN})
     set(directory ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
@@ -20,14 +21,15 @@ function(zeplet_install_package package target)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/${ARG_HEADERS}/
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO} COMPONENT development
             FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE ${ARG_EXCEPT})
+    set(built ${PROJECT_BINARY_DIR}/lib/cmake/${package})
     install(EXPORT ${package}Targets NAMESPACE Zeplet:: FILE ${package}Targets-export.cmake
             DESTINATION ${directory} COMPONENT development)
+    export(EXPORT ${package}Targets NAMESPACE Zeplet:: FILE ${built}/${package}Targets-export.cmake)
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in
-        ${PROJECT_BINARY_DIR}/${package}Config.cmake INSTALL_DESTINATION ${directory})
-    write_basic_package_version_file(${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
+        ${built}/${package}Config.cmake INSTALL_DESTINATION ${directory})
+    write_basic_package_version_file(${built}/${package}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
-    install(FILES ${PROJECT_BINARY_DIR}/${package}Config.cmake
-                  ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
+    install(FILES ${built}/${package}Config.cmake ${built}/${package}ConfigVersion.cmake
             DESTINATION ${directory} COMPONENT development)
 endfunction()
 
@@ -35,6 +37,10 @@ zeplet_install_package(Zeplet zeplet HEADERS src INTO zeplet)
 # The plugin function and everything beside it that it needs.
 file(GLOB plugin_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ZepletPlugin*)
 install(FILES ${plugin_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet COMPONENT development)
+foreach(file IN LISTS plugin_files)
+    get_filename_component(name ${file} NAME)
+    file(CREATE_LINK ${file} ${PROJECT_BINARY_DIR}/lib/cmake/Zeplet/${name} SYMBOLIC)
+endforeach()
 
 if(ZEPLET_HOST)
     return()

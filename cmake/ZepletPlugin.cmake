@@ -11,7 +11,8 @@
 # and the panel loads them for the language that the operator chose.
 #
 # The library is built into plugins/ of the build tree and, without NO_INSTALL, installed into
-# lib/zeplet/plugins. Works within this tree and after find_package(Zeplet) alike.
+# lib/zeplet/plugins. The target "zeplet_plugins" builds the plugins without their tests. Works within
+# this tree and after find_package(Zeplet) alike.
 include(GNUInstallDirs)
 include(${CMAKE_CURRENT_LIST_DIR}/ZepletPluginTranslations.cmake)
 
@@ -28,6 +29,10 @@ function(zeplet_add_plugin)
     add_library(${ARG_TARGET} MODULE ${ARG_SOURCES})
     zeplet_configure_plugin(${ARG_TARGET})
     zeplet_tag_plugin(${ARG_TARGET})
+    if(NOT TARGET zeplet_plugins)
+        add_custom_target(zeplet_plugins)
+    endif()
+    add_dependencies(zeplet_plugins ${ARG_TARGET})
     target_link_libraries(${ARG_TARGET} PRIVATE ${ARG_LIBS} Zeplet::zeplet)
     if(ARG_TRANSLATIONS)
         zeplet_add_translations(${ARG_TARGET} ${ARG_NAME} ${ARG_TRANSLATIONS})

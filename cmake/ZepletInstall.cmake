@@ -1,7 +1,7 @@
 # What an installation holds, by component:
 #   runtime      the library, and the reference host's where this build made one
 #   development  their headers and CMake packages. Private headers (*_p.h) stay here
-#   kit          what else an author needs: panel, simulator, examples' sources, documents, and all
+#   kit          what else an author needs: panel, simulator, test kit, examples' sources, documents, and all
 #                that other folders install without naming a component
 #   examples     the examples, built: an installed panel shows them
 include(CMakePackageConfigHelpers)
@@ -14,23 +14,29 @@ endif()
 # The library of a target with its public headers, and the package that finds them. The build tree
 # has the package, too, in the same place: a project that is given the tree as its prefix uses it.
 function(zeplet_install_package package target)
-    cmake_parse_arguments(ARG "" "HEADERS;INTO" "EXCEPT" ${ARGN})
+    cmake_parse_arguments(ARG "" "HEADERS;INTO;COMPONENT" "EXCEPT" ${ARGN})
     set(directory ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
+    set(runtime runtime)
+    set(development development)
+    if(ARG_COMPONENT)
+        set(runtime ${ARG_COMPONENT})
+        set(development ${ARG_COMPONENT})
+    endif()
     install(TARGETS ${target} EXPORT ${package}Targets
-            LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
+            LIBRARY COMPONENT ${runtime} NAMELINK_COMPONENT ${development})
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/${ARG_HEADERS}/
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO} COMPONENT development
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO} COMPONENT ${development}
             FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE ${ARG_EXCEPT})
     set(built ${PROJECT_BINARY_DIR}/lib/cmake/${package})
     install(EXPORT ${package}Targets NAMESPACE Zeplet:: FILE ${package}Targets-export.cmake
-            DESTINATION ${directory} COMPONENT development)
+            DESTINATION ${directory} COMPONENT ${development})
     export(EXPORT ${package}Targets NAMESPACE Zeplet:: FILE ${built}/${package}Targets-export.cmake)
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in
         ${built}/${package}Config.cmake INSTALL_DESTINATION ${directory})
     write_basic_package_version_file(${built}/${package}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
     install(FILES ${built}/${package}Config.cmake ${built}/${package}ConfigVersion.cmake
-            DESTINATION ${directory} COMPONENT development)
+            DESTINATION ${directory} COMPONENT ${development})
 endfunction()
 
 zeplet_install_package(Zeplet zeplet HEADERS src INTO zeplet)
@@ -48,6 +54,9 @@ endif()
 
 zeplet_install_package(ZepletHost zeplet_host HEADERS host INTO zeplet-host
                        EXCEPT PATTERN link EXCLUDE)
+
+zeplet_install_package(ZepletTest zeplet_test_kit HEADERS testkit INTO zeplet-test COMPONENT kit
+                       EXCEPT PATTERN parts EXCLUDE)
 
 install(TARGETS zeplet-panel zeplet-simulator RUNTIME COMPONENT kit)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples

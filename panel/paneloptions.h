@@ -10,6 +10,7 @@ namespace panel
 /** What the command line asks for. All paths are absolute: the panel works in its runtime
  * directory. */
 struct PanelOptions {
+    bool ownPlugins = true; ///< load the panel's own, too
     QStringList pluginDirectories; ///< empty: the installation's
     QString runtimeDirectory;
     QString settingsFile;

@@ -105,7 +105,8 @@ void PanelSession::loadPlugins()
     for (const QString &name : m_options.retries)
         m_guard->tryAgain(name);
     m_loader = std::make_unique<PluginLoader>(*m_guard);
-    m_loader->loadDirectory(installed(ZEPLET_PANEL_PLUGIN_DIR));
+    if (m_options.ownPlugins)
+        m_loader->loadDirectory(installed(ZEPLET_PANEL_PLUGIN_DIR));
     // A panel may be installed without plugins.
     const QString plugins = installed(ZEPLET_PLUGIN_DIR);
     if (m_options.pluginDirectories.isEmpty() && QDir(plugins).exists())
@@ -119,6 +120,8 @@ void PanelSession::startModules()
     m_runner = std::make_unique<kest::ModuleRunner>();
     connect(m_runner.get(), &kest::ModuleRunner::moduleFaulty, m_loader.get(),
             &PluginLoader::markFaulty);
+    connect(m_runner.get(), &kest::ModuleRunner::stepStarted, this, &PanelSession::stepStarted);
+    connect(m_runner.get(), &kest::ModuleRunner::stepFinished, this, &PanelSession::stepFinished);
     guardSteps();
     m_runner->start(m_loader->moduleNames());
     m_runner->startFrames(FrameInterval);
@@ -186,6 +189,11 @@ MainWindow &PanelSession::window() const
 const PluginLoader &PanelSession::loader() const
 {
     return *m_loader;
+}
+
+kest::ModuleRunner &PanelSession::runner() const
+{
+    return *m_runner;
 }
 
 } // namespace panel

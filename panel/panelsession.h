@@ -45,6 +45,12 @@ public:
 
     MainWindow &window() const;
     const PluginLoader &loader() const;
+    kest::ModuleRunner &runner() const;
+
+Q_SIGNALS:
+    /** Around each step of a module; see kest::ModuleRunner. */
+    void stepStarted(const QString &module, const QString &step);
+    void stepFinished(const QString &module, const QString &step);
 
 private:
     bool enterRuntimeDirectory(QString *error);

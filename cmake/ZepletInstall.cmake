@@ -1,8 +1,8 @@
 # What an installation holds, by component:
 #   runtime      the library, and the reference host's where this build made one
 #   development  their headers and CMake packages. Private headers (*_p.h) stay here
-#   kit          what else an author needs: panel, simulator, test kit, examples' sources, documents, and all
-#                that other folders install without naming a component
+#   kit          what else an author needs: panel, simulator, test kit, examples' sources, documents,
+#                and all that other folders install without naming a component
 #   examples     the examples, built: an installed panel shows them
 include(CMakePackageConfigHelpers)
 

@@ -21,7 +21,8 @@ ConsoleLine::~ConsoleLine()
 void ConsoleLine::appendItem(const QString &text)
 {
     const QByteArray utf8 = text.toUtf8();
-    m_debug << QString::fromUtf8(utf8.constData(), utf8.size());
+    // The maximum tells gcc that Qt does not look for the length: it warns of that on 64-bit Arm.
+    m_debug << QString::fromUtf8(utf8.constData(), qMax(0, utf8.size()));
 }
 
 void ConsoleLine::appendItem(const void *pointer)

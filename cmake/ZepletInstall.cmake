@@ -40,10 +40,14 @@ function(zeplet_install_package package target)
 endfunction()
 
 zeplet_install_package(Zeplet zeplet HEADERS src INTO zeplet)
-# The plugin function and everything beside it that it needs.
+# The plugin function and everything beside it that it needs, and what builds a plugin for 64-bit Arm
+# and runs its tests here.
 file(GLOB plugin_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ZepletPlugin*)
+list(APPEND plugin_files ${PROJECT_SOURCE_DIR}/cmake/arm64.cmake)
+set(arm64run ${PROJECT_SOURCE_DIR}/cmake/arm64run)
 install(FILES ${plugin_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet COMPONENT development)
-foreach(file IN LISTS plugin_files)
+install(PROGRAMS ${arm64run} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet COMPONENT development)
+foreach(file IN LISTS plugin_files arm64run)
     get_filename_component(name ${file} NAME)
     file(CREATE_LINK ${file} ${PROJECT_BINARY_DIR}/lib/cmake/Zeplet/${name} SYMBOLIC)
 endforeach()

@@ -74,6 +74,9 @@ function(zeplet_register_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 60)
     endif()
+    if(CMAKE_CROSSCOMPILING) # an emulator is slow
+        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 5")
+    endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND} WORKING_DIRECTORY ${directory})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}

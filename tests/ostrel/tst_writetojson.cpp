@@ -175,7 +175,7 @@ private Q_SLOTS:
         for (int round = 0; round < 10; ++round) {
             const QDateTime before = QFileInfo(path()).lastModified();
             QProcess writer;
-            writer.start(QCoreApplication::applicationFilePath(), {"--write-forever", path()});
+            writer.start(WRITER, {"--write-forever", path()});
             QVERIFY(writer.waitForStarted());
             // Somewhere in the writes after the first: each round lands elsewhere.
             QTRY_VERIFY(QFileInfo(path()).lastModified() != before);

@@ -3,7 +3,9 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QSet>
 #include <QStandardPaths>
+#include <algorithm>
 #include <brisa/languagemanager.h>
 #include <cmath>
 
@@ -33,9 +35,14 @@ void addOptions(QCommandLineParser *parser)
         {"page", Texts::tr("Shows the page KEY of the centre area first."), "KEY"},
         {"language",
          Texts::tr("Speaks CODE: %1.").arg(brisa::LanguageManager::languages().join(", ")), "CODE"},
+        {"resume", Texts::tr("Shows the page that was shown last, else that of --page.")},
         {"fullscreen", Texts::tr("Covers the whole screen.")},
         {"retry", Texts::tr("Lets the plugin NAME, which took the panel down, take part again."),
          "NAME"},
+        {"list",
+         Texts::tr("Shows nothing, starts the plugins without a controller, prints what became of "
+                   "each library (NAME, STATE, FILE, SENTENCE with tabs between) and ends. A "
+                   "plugin that takes it down here is named by the next --list.")},
     });
 }
 
@@ -71,10 +78,18 @@ PanelOptions optionsOf(const QCommandLineParser &parser)
     options.language = parser.value("language");
     options.retries = parser.values("retry");
     options.fullScreen = parser.isSet("fullscreen");
+    options.list = parser.isSet("list");
+    options.resume = parser.isSet("resume");
     return options;
 }
 
 } // namespace
+
+bool PanelOptions::needDisplay(int argc, char **argv)
+{
+    static const QSet<QByteArray> texts {"--list", "--help", "-h", "--version", "-v"};
+    return std::none_of(argv, argv + argc, [](const char *word) { return texts.contains(word); });
+}
 
 std::optional<PanelOptions> PanelOptions::parse(const QStringList &arguments, QString *text,
                                                 int *exitCode)

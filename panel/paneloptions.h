@@ -20,6 +20,12 @@ struct PanelOptions {
     QStringList retries; ///< plugins that were left out and shall take part again
     std::optional<int> milliseconds; ///< how long to run; nothing: until it is closed
     bool fullScreen = false;
+    bool list = false; ///< shows nothing, but prints what became of each plugin library, and ends
+    bool resume = false; ///< shows the page that was shown last, and the one of --page failing that
+
+    /** False where the command line asks for text alone: for what works without a display. To be
+     *  asked before there is an application, which needs one. */
+    static bool needDisplay(int argc, char **argv);
 
     /**
      * Reads the command line. Where it is to end the program at once (--help, --version, an error),

@@ -1,6 +1,7 @@
 #include "panelsession.h"
 
 #include "desktoptools.h"
+#include "lastpage.h"
 #include "mainwindow.h"
 #include "panellog.h"
 #include "pluginloader.h"
@@ -14,6 +15,7 @@
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 #include <brisa/thememanager.h>
+#include <kest/centerwidget.h>
 #include <kest/modulerunner.h>
 #include <ostrel/moduleobject.h>
 #include <tavik/robotdata.h>
@@ -68,7 +70,8 @@ bool PanelSession::start(QString *error)
     m_data = std::make_unique<tavik::RobotData>(); // it has things to say: the window stands
     loadPlugins();
     startModules();
-    showWindow();
+    if (!m_options.list)
+        showWindow();
     announce(QStringLiteral("running"));
     infoLine() << tr("The panel is running.");
     if (m_options.milliseconds)
@@ -127,7 +130,11 @@ void PanelSession::startModules()
     m_runner->startFrames(FrameInterval);
     brisa::ManagerHelper *const host = brisa::ManagerHelper::instance();
     host->setReady(true);
-    QTimer::singleShot(LinkDelay, this, [host] { host->openLinks(); });
+    // A list says what becomes of the plugins, and must not reach a robot for that.
+    if (m_options.list)
+        connect(m_runner.get(), &kest::ModuleRunner::frameFinished, qApp, &QCoreApplication::quit);
+    else
+        QTimer::singleShot(LinkDelay, this, [host] { host->openLinks(); });
 }
 
 /** The guard watches a module's steps up to its first frame: what happens later is no start. */
@@ -145,12 +152,23 @@ void PanelSession::guardSteps()
 
 void PanelSession::showWindow()
 {
-    if (!m_options.page.isEmpty() && !m_window->showPage(m_options.page))
-        errorLine() << tr("There is no page \"%1\".").arg(m_options.page);
+    showFirstPage();
     if (m_options.fullScreen)
         m_window->showFullScreen();
     else
         m_window->show();
+}
+
+/** What is kept follows from here on: pages that came while the plugins started were nobody's
+ *  choice, and a page whose plugin failed this time is shown again once it is mended. */
+void PanelSession::showFirstPage()
+{
+    m_lastPage = std::make_unique<LastPage>(m_options.runtimeDirectory);
+    m_lastPage->follow(instantiatedCenterWidget());
+    if (m_options.resume && m_window->showPage(m_lastPage->key()))
+        return;
+    if (!m_options.page.isEmpty() && !m_window->showPage(m_options.page))
+        errorLine() << tr("There is no page \"%1\".").arg(m_options.page);
 }
 
 bool PanelSession::finish()
@@ -158,6 +176,7 @@ bool PanelSession::finish()
     if (std::exchange(m_finished, true) || !m_runner)
         return true;
     const bool saved = saveScreenshot();
+    m_lastPage.reset(); // pages that go now are nobody's choice
     announce(QStringLiteral("stopping"));
     brisa::ManagerHelper::instance()->setReady(false);
     m_guarding.reset();

@@ -18,6 +18,7 @@ class RobotData;
 namespace panel
 {
 
+class LastPage;
 class MainWindow;
 class PluginLoader;
 class RobotState;
@@ -25,9 +26,10 @@ class StartGuard;
 
 /**
  * One run of the panel: start() builds the window, loads the plugins and drives their modules,
- * finish() ends it all in order. The data store's "panel.state" follows: "starting", "running",
- * "stopping", and "stopped" when no module lives any more, the moment to take down what modules
- * used. GUI thread.
+ * finish() ends it all in order. One that is
+ * to list the plugins shows no window, opens no links and quits after the first frame. The data
+ * store's "panel.state" follows: "starting", "running", "stopping", and "stopped" when no module
+ * lives any more, the moment to take down what modules used. GUI thread.
  */
 class PanelSession : public QObject
 {
@@ -56,6 +58,7 @@ private:
     bool enterRuntimeDirectory(QString *error);
     void readSettings();
     void showWindow();
+    void showFirstPage();
     void loadPlugins();
     void startModules();
     void guardSteps();
@@ -64,6 +67,7 @@ private:
     const PanelOptions m_options;
     std::unique_ptr<RobotState> m_robot;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<LastPage> m_lastPage;
     std::unique_ptr<tavik::RobotData> m_data;
     std::unique_ptr<StartGuard> m_guard;
     std::unique_ptr<PluginLoader> m_loader;

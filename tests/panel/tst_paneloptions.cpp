@@ -13,10 +13,27 @@ class TestPanelOptions : public QObject
 private Q_SLOTS:
     void everything()
     {
-        const auto options
-            = parse({"--plugins", "a", "--plugins", "/b/../c", "--runtime", "run", "--settings",
-                     "s", "--for", "1.5", "--screenshot", "p.png", "--page", "zeplet.monitor",
-                     "--fullscreen", "--retry", "x", "--retry", "y"});
+        const auto options = parse({"--plugins",
+                                    "a",
+                                    "--plugins",
+                                    "/b/../c",
+                                    "--runtime",
+                                    "run",
+                                    "--settings",
+                                    "s",
+                                    "--for",
+                                    "1.5",
+                                    "--screenshot",
+                                    "p.png",
+                                    "--page",
+                                    "zeplet.monitor",
+                                    "--fullscreen",
+                                    "--resume",
+                                    "--list",
+                                    "--retry",
+                                    "x",
+                                    "--retry",
+                                    "y"});
         QVERIFY(options);
         const QDir here;
         QCOMPARE(options->pluginDirectories, QStringList({here.absoluteFilePath("a"), "/c"}));
@@ -26,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(options->screenshotFile, here.absoluteFilePath("p.png"));
         QCOMPARE(options->page, QStringLiteral("zeplet.monitor"));
         QCOMPARE(options->retries, QStringList({"x", "y"}));
-        QVERIFY(options->fullScreen);
+        QVERIFY(options->fullScreen && options->list && options->resume);
     }
 
     void nothing()

@@ -95,6 +95,54 @@ private Q_SLOTS:
         QCOMPARE(run({"--for", "0.1", "--retry", plugin}), -1);
     }
 
+    /** Readable by a program whatever plugins print and files are called; without a display. */
+    void lists()
+    {
+        pluginfiles::copy(plugins(), "ending"); // prints
+        pluginfiles::copy(plugins(), "throwinginit");
+        pluginfiles::copy(plugins(), "crasher");
+        pluginfiles::write(plugins(), "no\tlibrary\n.so", "text");
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        const auto display = qScopeGuard([] { qputenv("QT_QPA_PLATFORM", "offscreen"); });
+        m_channels = QProcess::SeparateChannels;
+        const auto merged = qScopeGuard([this] { m_channels = QProcess::MergedChannels; });
+        QCOMPARE(run({"--list"}), -1); // the crasher takes it down, and is named from then on
+        QCOMPARE(m_output, QString());
+        QCOMPARE(run({"--list"}), 0);
+        const struct {
+            const char *name, *state, *file, *sentence;
+        } rows[] = {{"crasher", "left out", "crasher.so", "(init): replace it"},
+                    {"ending", "running", "ending.so", ""},
+                    {"no library ", "refused", "no library .so", "no library .so is not a library"},
+                    {"throwinginit", "faulty", "throwinginit.so", "failed in init: no gripper"}};
+        const QStringList lines = m_output.split('\n').filter('\t' + plugins() + '/');
+        for (int i = 0; i < int(std::size(rows)); ++i) {
+            const QStringList cells = lines.value(i).split('\t');
+            QCOMPARE(cells.size(), 4);
+            QCOMPARE(cells.mid(0, 3),
+                     QStringList({rows[i].name, rows[i].state, plugins() + '/' + rows[i].file}));
+            QVERIFY2(cells.at(3).contains(rows[i].sentence), qPrintable(cells.at(3)));
+        }
+        QCOMPARE(lines.size(), int(std::size(rows)));
+        QVERIFY(!QFile::exists(m_directory->filePath("run/page")));
+    }
+
+    void resumes()
+    {
+        pluginfiles::copy(plugins(), "sound");
+        QCOMPARE(run({"--for", "0.1", "--page", "zeplet.sound"}), 0);
+        QCOMPARE(keptPage(), QByteArray("zeplet.sound\n"));
+        // The page's plugin is away once, and the page comes back with it.
+        QVERIFY(QFile::remove(plugins() + "/sound.so"));
+        QCOMPARE(run({"--for", "0.1", "--resume"}), 0);
+        QCOMPARE(keptPage(), QByteArray("zeplet.sound\n"));
+        pluginfiles::copy(plugins(), "sound");
+        QVERIFY(QFile::remove(m_directory->filePath("run/page")));
+        pluginfiles::write(m_directory->filePath("run"), "page", "zeplet.zeplet");
+        QCOMPARE(run({"--for", "0.1", "--resume", "--page", "zeplet.sound"}), 0);
+        QCOMPARE(keptPage(), QByteArray("zeplet.zeplet\n"));
+    }
+
     void correctedPluginTakesPartAgain()
     {
         pluginfiles::copy(plugins(), "crasher");
@@ -130,7 +178,7 @@ private:
         if (!arguments.contains("--runtime"))
             all += {"--runtime", "run"};
         panel->setWorkingDirectory(m_directory->path());
-        panel->setProcessChannelMode(QProcess::MergedChannels);
+        panel->setProcessChannelMode(m_channels);
         panel->start(ZEPLET_PANEL, all + arguments);
         QVERIFY(panel->waitForStarted());
     }
@@ -141,8 +189,14 @@ private:
         QProcess panel;
         start(&panel, arguments);
         panel.waitForFinished();
-        m_output = QString::fromUtf8(panel.readAll());
+        m_output = QString::fromUtf8(panel.readAllStandardOutput());
         return panel.exitStatus() == QProcess::NormalExit ? panel.exitCode() : -1;
+    }
+
+    QByteArray keptPage() const
+    {
+        QFile file(m_directory->filePath("run/page"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     QString logText() const
@@ -159,6 +213,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_directory;
     QString m_output;
+    QProcess::ProcessChannelMode m_channels = QProcess::MergedChannels;
 };
 
 QTEST_GUILESS_MAIN(TestPanelProgram)

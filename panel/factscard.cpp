@@ -4,6 +4,7 @@
 #include <QVariant>
 #include <brisa/elidedlabel.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 namespace panel
 {
@@ -17,7 +18,7 @@ namespace
 constexpr int SmallestColumn = 20 * metrics::Grid;
 }
 
-FactsCard::FactsCard(const QStringList &captions, QWidget *parent)
+FactsCard::FactsCard(const std::function<QStringList()> &captions, QWidget *parent)
     : QFrame(parent)
 {
     setProperty("role", QStringLiteral("card"));
@@ -26,13 +27,19 @@ FactsCard::FactsCard(const QStringList &captions, QWidget *parent)
     grid->setHorizontalSpacing(metrics::Margin);
     grid->setVerticalSpacing(metrics::Grid / 2);
     m_grid = grid;
-    for (int column = 0; column < captions.size(); ++column) {
-        m_captions += new brisa::ElidedLabel(captions.at(column), this);
+    const int columns = captions().size();
+    for (int column = 0; column < columns; ++column) {
+        m_captions += new brisa::ElidedLabel(QString(), this);
         m_values += new brisa::ElidedLabel(QString(), this);
         m_captions.last()->setFont(ThemeManager::font(TextSize::Caption));
         m_values.last()->setFont(ThemeManager::font(TextSize::Body, true));
     }
-    place(captions.size());
+    place(columns);
+    brisa::translated(this, [this, captions] {
+        const QStringList texts = captions();
+        for (int i = 0; i < texts.size(); ++i)
+            m_captions.at(i)->setText(texts.at(i));
+    });
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &FactsCard::applyTheme);
     applyTheme();
 }

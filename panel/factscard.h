@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QList>
 #include <QStringList>
+#include <functional>
 
 class QGridLayout;
 
@@ -21,7 +22,8 @@ class FactsCard : public QFrame
     Q_OBJECT
 
 public:
-    explicit FactsCard(const QStringList &captions, QWidget *parent = nullptr);
+    /** captions: in the language of the panel, called again when that changes. */
+    explicit FactsCard(const std::function<QStringList()> &captions, QWidget *parent = nullptr);
 
     /** One text per caption; a dash stands for an empty one. */
     void setValues(const QStringList &values);

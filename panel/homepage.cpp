@@ -12,6 +12,7 @@
 #include <brisa/managerhelper.h>
 #include <brisa/settingmanager.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <ostrel/moduleobject.h>
 
 namespace panel
@@ -67,22 +68,27 @@ HomePage::HomePage(const RobotState &robot, QWidget *parent)
     , m_robot(robot)
     , m_title(new brisa::ElidedLabel(QString(), this))
     , m_subtitle(new brisa::ElidedLabel(QString(), this))
-    , m_connection(new StatusCard(tr("Connection"), this))
-    , m_power(new StatusCard(tr("Motor power"), this))
-    , m_mode(new StatusCard(tr("Operating mode"), this))
-    , m_run(new StatusCard(tr("Program"), this))
-    , m_user(new StatusCard(tr("User"), this))
-    , m_plugins(new StatusCard(tr("Plugins"), this))
+    , m_connection(new StatusCard([] { return tr("Connection"); }, this))
+    , m_power(new StatusCard([] { return tr("Motor power"); }, this))
+    , m_mode(new StatusCard([] { return tr("Operating mode"); }, this))
+    , m_run(new StatusCard([] { return tr("Program"); }, this))
+    , m_user(new StatusCard([] { return tr("User"); }, this))
+    , m_plugins(new StatusCard([] { return tr("Plugins"); }, this))
     , m_facts(new FactsCard(
-          {tr("Robot type"), tr("Identity"), tr("Controller version"), tr("Controller address")},
+          [] {
+              return QStringList {tr("Robot type"), tr("Identity"), tr("Controller version"),
+                                  tr("Controller address")};
+          },
           this))
 {
     buildLayout();
     connect(&robot, &RobotState::changed, this, &HomePage::refreshRobot);
     connect(pluginRecords(), &ostrel::ModuleObject::changed, this, &HomePage::refreshPlugins);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &HomePage::applyTheme);
-    refreshRobot();
-    refreshPlugins();
+    brisa::translated(this, [this] {
+        refreshRobot();
+        refreshPlugins();
+    });
     applyTheme();
 }
 

@@ -16,6 +16,7 @@
 #include <brisa/logbanner.h>
 #include <brisa/modalcounter.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <kest/centerwidget.h>
 #include <kest/expandsidebar.h>
 #include <kest/statusbar.h>
@@ -43,7 +44,6 @@ MainWindow::MainWindow(const RobotState &robot, QWidget *parent)
     , m_center(new kest::CenterWidget(this))
     , m_sideBar(new kest::ExpandSideBar(this))
 {
-    setWindowTitle(tr("Robot panel"));
     setMinimumSize(PanelSize);
     buildLayout();
     fillStatusBar();
@@ -52,7 +52,10 @@ MainWindow::MainWindow(const RobotState &robot, QWidget *parent)
     auto *const fullScreen = new QShortcut(Qt::Key_F11, this);
     connect(fullScreen, &QShortcut::activated, this,
             [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
-    refreshBadges();
+    brisa::translated(this, [this] {
+        setWindowTitle(tr("Robot panel"));
+        refreshBadges();
+    });
 }
 
 MainWindow::~MainWindow() = default;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <ostrel/moduleobject.h>
 
 namespace panel
@@ -22,9 +23,9 @@ ostrel::ModuleObject *waitingNode()
     return m(QStringLiteral("brisa.r.zeplet.waiting"));
 }
 
-QPushButton *makeKey(const QString &text, const QString &wish, QWidget *parent)
+QPushButton *makeKey(const QString &wish, QWidget *parent)
 {
-    auto *const key = new QPushButton(text, parent);
+    auto *const key = new QPushButton(parent);
     key->setIconSize({metrics::Icon, metrics::Icon});
     key->setMinimumHeight(metrics::Touch);
     key->setFocusPolicy(Qt::NoFocus); // no press by a space bar that was meant for something else
@@ -47,11 +48,15 @@ void setLooks(QPushButton *key, brisa::Glyph glyph, const QString &role)
 RunKeys::RunKeys(const RobotState &robot, QWidget *parent)
     : QWidget(parent)
     , m_robot(robot)
-    , m_start(makeKey(tr("Start"), QStringLiteral("start"), this))
-    , m_stop(makeKey(tr("Stop"), QStringLiteral("stop"), this))
+    , m_start(makeKey(QStringLiteral("start"), this))
+    , m_stop(makeKey(QStringLiteral("stop"), this))
 {
     m_start->setObjectName(QStringLiteral("startProgram"));
     m_stop->setObjectName(QStringLiteral("stopProgram"));
+    brisa::translated(this, [this] {
+        m_start->setText(tr("Start"));
+        m_stop->setText(tr("Stop"));
+    });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

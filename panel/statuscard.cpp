@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <QVariant>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 namespace panel
 {
@@ -65,7 +66,7 @@ QFont fittingFont(const QString &text, int space)
 
 } // namespace
 
-StatusCard::StatusCard(const QString &caption, QWidget *parent)
+StatusCard::StatusCard(const std::function<QString()> &caption, QWidget *parent)
     : QFrame(parent)
     , m_picture(new QLabel(this))
     , m_caption(makeText(TextSize::Body, this))
@@ -75,7 +76,7 @@ StatusCard::StatusCard(const QString &caption, QWidget *parent)
     using namespace brisa::metrics;
     setProperty("role", QStringLiteral("card"));
     m_picture->setFixedSize(Touch, Touch);
-    m_caption->setText(caption);
+    brisa::translated(this, [this, caption] { m_caption->setText(caption()); });
     for (QLabel *const label : {m_caption, m_hint})
         label->setProperty("role", QStringLiteral("muted"));
     auto *const column = new QVBoxLayout(this);

@@ -3,6 +3,7 @@
 #include "robotreadings.h"
 
 #include <QFrame>
+#include <functional>
 
 class QLabel;
 
@@ -16,7 +17,8 @@ class StatusCard : public QFrame
     Q_OBJECT
 
 public:
-    explicit StatusCard(const QString &caption, QWidget *parent = nullptr);
+    /** caption: in the language of the panel, called again when that changes. */
+    explicit StatusCard(const std::function<QString()> &caption, QWidget *parent = nullptr);
 
     void setReading(const Reading &reading);
 

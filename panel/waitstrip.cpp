@@ -6,6 +6,7 @@
 #include <brisa/elidedlabel.h>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <ostrel/moduleobject.h>
 
 namespace panel
@@ -24,9 +25,9 @@ ostrel::ModuleObject *waitingNode()
     return m(QStringLiteral("brisa.r.zeplet.waiting"));
 }
 
-QPushButton *makeButton(const QString &text, const QString &wish, QWidget *parent)
+QPushButton *makeButton(const QString &wish, QWidget *parent)
 {
-    auto *const button = new QPushButton(text, parent);
+    auto *const button = new QPushButton(parent);
     button->setMinimumHeight(metrics::Touch);
     button->setFocusPolicy(Qt::NoFocus);
     QObject::connect(button, &QPushButton::clicked, button,
@@ -39,8 +40,8 @@ QPushButton *makeButton(const QString &text, const QString &wish, QWidget *paren
 WaitStrip::WaitStrip(QWidget *parent)
     : QFrame(parent)
     , m_text(new brisa::ElidedLabel(QString(), this))
-    , m_stopNow(makeButton(tr("Stop now"), QStringLiteral("stop"), this))
-    , m_cancel(makeButton(tr("Cancel"), QStringLiteral("cancel"), this))
+    , m_stopNow(makeButton(QStringLiteral("stop"), this))
+    , m_cancel(makeButton(QStringLiteral("cancel"), this))
 {
     m_stopNow->setObjectName(QStringLiteral("stopNow"));
     m_stopNow->setProperty("role", QStringLiteral("danger"));
@@ -52,18 +53,19 @@ WaitStrip::WaitStrip(QWidget *parent)
     row->addWidget(m_text, 1);
     row->addWidget(m_stopNow);
     row->addWidget(m_cancel);
-    connect(waitingNode(), &ostrel::ModuleObject::changed, this,
-            [this](const QVariant &waiting) { follow(waiting.toString()); });
+    connect(waitingNode(), &ostrel::ModuleObject::changed, this, &WaitStrip::follow);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &WaitStrip::applyTheme);
     applyTheme();
-    follow(waitingNode()->getStr(QString()));
+    brisa::translated(this, [this] { follow(); });
 }
 
-void WaitStrip::follow(const QString &waiting)
+void WaitStrip::follow()
 {
+    const QString waiting = waitingNode()->getStr(QString());
     const bool stop = waiting == QLatin1String("stop");
     m_text->setText(stop ? tr("Waiting for a plugin to stop the program")
                          : tr("Waiting for a plugin to start the program"));
+    m_stopNow->setText(tr("Stop now"));
     m_stopNow->setVisible(stop);
     m_cancel->setText(stop ? tr("Keep running") : tr("Cancel"));
     setVisible(!waiting.isEmpty());

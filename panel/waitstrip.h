@@ -25,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void follow(const QString &waiting);
+    void follow();
     void applyTheme();
 
     brisa::ElidedLabel *m_text;

@@ -816,10 +816,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Qt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Event bus</source>
         <translation type="unfinished"></translation>
     </message>
@@ -835,11 +831,8 @@
         <source>Subscriptions</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>SystemPlugin</name>
     <message>
-        <source>Overview</source>
+        <source>Language</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1095,6 +1088,41 @@
     </message>
     <message>
         <source>Please wait: the panel takes no other command meanwhile.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>navigation</name>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1404,14 +1432,6 @@
     <name>panel::MainWindow</name>
     <message>
         <source>Robot panel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Plugins</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -5,6 +5,7 @@
 #include "brisa/loghistory_p.h"
 #include "brisa/managerhelper.h"
 #include "brisa/thememanager.h"
+#include "brisa/translated.h"
 #include "kest/bmodule.h"
 
 #include <QEvent>
@@ -78,8 +79,7 @@ LogBanner::LogBanner(QWidget *parent)
     setFixedHeight(metrics::Touch);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     buildRow();
-    applyTheme();
-    refresh();
+    translated(this, [this] { applyTheme(); });
     connect(m_toggle, &QToolButton::clicked, this,
             [this] { setHistoryVisible(!isHistoryVisible()); });
     connect(ManagerHelper::instance(), &ManagerHelper::logThrown, this, &LogBanner::addMessage);
@@ -112,9 +112,13 @@ void LogBanner::buildHistory()
     m_panel = new QFrame(window());
     m_panel->setObjectName(QStringLiteral("logHistory"));
     m_panel->setProperty("role", QStringLiteral("card"));
-    auto *const title = new ElidedLabel(tr("Messages"), m_panel);
+    auto *const title = new ElidedLabel(QString(), m_panel);
     title->setFont(ThemeManager::font(TextSize::Title, true));
-    auto *const clearButton = new QPushButton(tr("Clear"), m_panel);
+    auto *const clearButton = new QPushButton(m_panel);
+    translated(m_panel, [=] {
+        title->setText(tr("Messages"));
+        clearButton->setText(tr("Clear"));
+    });
     connect(clearButton, &QPushButton::clicked, this, &LogBanner::clear);
     auto *const header = new QHBoxLayout;
     header->addWidget(title, 1);

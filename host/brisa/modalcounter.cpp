@@ -1,6 +1,7 @@
 #include "brisa/modalcounter.h"
 
 #include "brisa/thememanager.h"
+#include "brisa/translated.h"
 #include "kest/bmodule.h"
 #include "ostrel/moduleobject.h"
 
@@ -31,6 +32,7 @@ ModalCounter::ModalCounter(QWidget *target)
     connect(countNode(), &ostrel::ModuleObject::changed, this, &ModalCounter::readCount);
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this,
             qOverload<>(&QWidget::update));
+    translated(this, [this] { update(); });
     readCount();
 }
 

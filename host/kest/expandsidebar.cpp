@@ -4,6 +4,7 @@
 #include "brisa/glyph.h"
 #include "brisa/thememanager.h"
 #include "brisa/touchscrollarea_p.h"
+#include "brisa/translated.h"
 #include "kest/keyedwidgets_p.h"
 
 #include <QHBoxLayout>
@@ -40,11 +41,10 @@ QPointer<kest::ExpandSideBar> &instance()
     return bar;
 }
 
-QToolButton *makeButton(const QString &name, const QString &tip, QWidget *parent)
+QToolButton *makeButton(const QString &name, QWidget *parent)
 {
     auto *const button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setToolTip(tip);
     button->setAutoRaise(true);
     button->setFixedSize(brisa::metrics::Touch, brisa::metrics::Touch);
     button->setIconSize({brisa::metrics::Icon, brisa::metrics::Icon});
@@ -61,8 +61,8 @@ ExpandSideBar::ExpandSideBar(QWidget *parent)
     , m_pages(new KeyedWidgets(this))
     , m_stack(new PageStack(this))
     , m_title(new brisa::ElidedLabel(QString(), this))
-    , m_choose(makeButton(QStringLiteral("choose"), tr("Choose a page"), this))
-    , m_close(makeButton(QStringLiteral("close"), tr("Close"), this))
+    , m_choose(makeButton(QStringLiteral("choose"), this))
+    , m_close(makeButton(QStringLiteral("close"), this))
 {
     if (!instance())
         instance() = this;
@@ -71,6 +71,10 @@ ExpandSideBar::ExpandSideBar(QWidget *parent)
     buildLayout();
     applyTheme();
     refreshHeader();
+    brisa::translated(this, [this] {
+        m_choose->setToolTip(tr("Choose a page"));
+        m_close->setToolTip(tr("Close"));
+    });
     connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
     connect(m_choose, &QToolButton::clicked, this, &ExpandSideBar::choosePage);
     connect(m_stack, &QStackedWidget::currentChanged, this, &ExpandSideBar::refreshHeader);

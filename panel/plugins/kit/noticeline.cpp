@@ -6,6 +6,7 @@
 #include <QToolButton>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 namespace kit
 {
@@ -50,7 +51,7 @@ NoticeLine::NoticeLine(Kind kind, QWidget *parent)
     m_close->setAutoRaise(true);
     m_close->setFixedSize(metrics::Touch, metrics::Touch);
     m_close->setVisible(kind == Closable);
-    m_close->setAccessibleName(tr("Close"));
+    brisa::translated(m_close, [this] { m_close->setAccessibleName(tr("Close")); });
     setMinimumHeight(metrics::Touch);
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins(metrics::Margin, 0, 0, 0);

@@ -12,6 +12,7 @@
 #include <brisa/elidedlabel.h>
 #include <brisa/managerhelper.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
 
@@ -29,15 +30,16 @@ constexpr int RefreshDelay = 40; // ms: faster than this nobody reads
 
 } // namespace
 
-Page::Page(const QString &pluginName, const QString &title, QWidget *parent)
+Page::Page(const QString &pluginName, const Text &title, QWidget *parent)
     : QWidget(parent)
     , m_pluginName(pluginName)
     , m_header(new QHBoxLayout)
-    , m_title(new brisa::ElidedLabel(title, this))
+    , m_title(new brisa::ElidedLabel(QString(), this))
     , m_subtitle(new brisa::ElidedLabel(QString(), this))
     , m_notice(new NoticeLine(NoticeLine::Closable, this))
     , m_body(new QVBoxLayout)
 {
+    brisa::translated(m_title, [label = m_title, title] { label->setText(title()); });
     m_title->setFont(ThemeManager::font(brisa::TextSize::Heading, true));
     m_subtitle->setFont(ThemeManager::font(brisa::TextSize::Body));
     auto *const titles = new QVBoxLayout;
@@ -77,9 +79,10 @@ void Page::setSubtitle(const QString &text)
     m_subtitle->setText(text);
 }
 
-QPushButton *Page::addButton(const QString &text, const QString &objectName, const QString &role)
+QPushButton *Page::addButton(const Text &text, const QString &objectName, const QString &role)
 {
-    auto *const button = new QPushButton(text, this);
+    auto *const button = new QPushButton(this);
+    brisa::translated(button, [button, text] { button->setText(text()); });
     button->setObjectName(objectName);
     button->setProperty("role", role);
     addToHeader(button);
@@ -191,6 +194,13 @@ void Page::hideEvent(QHideEvent *event)
             m_overlay->finish();
         say(Tone::Plain, QString());
     });
+}
+
+void Page::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        refreshSoon();
 }
 
 void Page::applyTheme()

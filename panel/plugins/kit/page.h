@@ -1,11 +1,11 @@
 #pragma once
 
 #include "marks.h"
+#include "text.h"
 
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
-#include <functional>
 
 class QHBoxLayout;
 class QPushButton;
@@ -24,21 +24,21 @@ class Overlay;
 
 /**
  * The frame of a page: title, a line below it and buttons, a notice, and the body. It reads its
- * data anew soon after one of the keys that it follows changed, and while nobody looks, not until
- * it is shown. GUI thread.
+ * data anew soon after one of the keys that it follows changed, or the panel's language, and while
+ * nobody looks, not until it is shown. GUI thread.
  */
 class Page : public QWidget
 {
     Q_OBJECT
 
 public:
-    Page(const QString &pluginName, const QString &title, QWidget *parent = nullptr);
+    Page(const QString &pluginName, const Text &title, QWidget *parent = nullptr);
     ~Page() override;
 
     const QString &pluginName() const;
     void setSubtitle(const QString &text);
     /** Adds a button right of the title. role as the host's style sheet has it. */
-    QPushButton *addButton(const QString &text, const QString &objectName,
+    QPushButton *addButton(const Text &text, const QString &objectName,
                            const QString &role = QString());
     /** Adds something else there. */
     void addToHeader(QWidget *widget);
@@ -69,6 +69,7 @@ protected:
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void applyTheme();

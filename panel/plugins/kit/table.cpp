@@ -9,6 +9,7 @@
 #include <QScroller>
 #include <algorithm>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 namespace kit
 {
@@ -29,11 +30,12 @@ bool Cell::operator==(const Cell &other) const
         && marks == other.marks && button == other.button;
 }
 
-Table::Table(const QStringList &headers, QWidget *parent)
+Table::Table(const Texts &headers, QWidget *parent)
     : QTableView(parent)
-    , m_model(new TableModel(headers, this))
+    , m_model(new TableModel(headers(), this))
 {
     setModel(m_model);
+    brisa::translated(this, [this, headers] { m_model->setHeaders(headers()); });
     setItemDelegate(new CellDelegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "marks.h"
+#include "text.h"
 
 #include <QTableView>
 #include <QVector>
@@ -38,7 +39,7 @@ class Table : public QTableView
     Q_OBJECT
 
 public:
-    explicit Table(const QStringList &headers, QWidget *parent = nullptr);
+    explicit Table(const Texts &headers, QWidget *parent = nullptr);
     ~Table() override;
 
     /** Shows these rows. The chosen row stays chosen as long as its key is there, and the place to

@@ -11,6 +11,12 @@ TableModel::TableModel(const QStringList &headers, QObject *parent)
 {
 }
 
+void TableModel::setHeaders(const QStringList &headers)
+{
+    m_headers = headers;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_headers.size() - 1);
+}
+
 bool TableModel::update(const QVector<Row> &rows)
 {
     const auto sameKey = [](const Row &a, const Row &b) { return a.key == b.key; };

@@ -15,6 +15,8 @@ class TableModel : public QAbstractTableModel
 public:
     TableModel(const QStringList &headers, QObject *parent);
 
+    /** As many as before. */
+    void setHeaders(const QStringList &headers);
     /** Only tells of the rows that differ where the keys are the same; false where they are not,
      *  and nothing was done. */
     bool update(const QVector<Row> &rows);

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <QtMath>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
@@ -66,8 +67,14 @@ ArmView::ArmView(QWidget *parent)
     m_views->setExpanding(false);
     m_views->setDrawBase(false);
     m_views->setFocusPolicy(Qt::NoFocus);
-    for (const QString &view : {tr("3D"), tr("Side"), tr("Top")})
-        m_views->addTab(view);
+    for (int view = Space; view <= Top; ++view)
+        m_views->addTab(QString());
+    brisa::translated(this, [this] {
+        m_views->setTabText(Space, tr("3D"));
+        m_views->setTabText(Side, tr("Side"));
+        m_views->setTabText(Top, tr("Top"));
+        update();
+    });
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(metrics::Grid, 0, metrics::Grid, 0);
     column->addWidget(m_views, 0, Qt::AlignLeft);

@@ -11,6 +11,7 @@
 #include <brisa/elidedlabel.h>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
 
@@ -40,8 +41,8 @@ MoveBar::MoveBar(ArmFeed *feed, kit::Page *page)
     , m_reason(new QLabel(this))
     , m_speed(new QComboBox(this))
     , m_way(new QComboBox(this))
-    , m_move(new QPushButton(tr("Move"), this))
-    , m_stop(new QPushButton(tr("STOP"), this))
+    , m_move(new QPushButton(this))
+    , m_stop(new QPushButton(this))
 {
     build();
     m_patience.setSingleShot(true);
@@ -69,10 +70,10 @@ void MoveBar::build()
     m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_speed->setObjectName(QStringLiteral("moveSpeed"));
     for (const int speed : Speeds)
-        m_speed->addItem(tr("%1 mm/s").arg(speed), speed);
+        m_speed->addItem(QString(), speed);
     m_speed->setCurrentIndex(m_speed->findData(FirstSpeed));
     m_way->setObjectName(QStringLiteral("moveWay"));
-    m_way->addItems({tr("Straight"), tr("By joints")});
+    m_way->addItems({QString(), QString()});
     m_move->setObjectName(QStringLiteral("moveStart"));
     m_move->setProperty("role", QStringLiteral("primary"));
     m_stop->setObjectName(QStringLiteral("moveStop"));
@@ -93,6 +94,17 @@ void MoveBar::build()
     for (QWidget *const field : QVector<QWidget *> {m_speed, m_way, m_move, m_stop})
         row->addWidget(field);
     refreshStop();
+    brisa::translated(this, [this] { sayTexts(); });
+}
+
+void MoveBar::sayTexts()
+{
+    for (int i = 0; i < m_speed->count(); ++i)
+        m_speed->setItemText(i, tr("%1 mm/s").arg(m_speed->itemData(i).toInt()));
+    m_way->setItemText(Straight, tr("Straight"));
+    m_way->setItemText(Joints, tr("By joints"));
+    m_move->setText(tr("Move"));
+    m_stop->setText(tr("STOP"));
 }
 
 void MoveBar::setTarget(const std::optional<Point> &point)

@@ -40,6 +40,7 @@ private:
     enum Phase { Resting, Sent, Moving };
 
     void build();
+    void sayTexts();
     QString refusal() const;
     void askToMove();
     void selectFrames(const Element &target);

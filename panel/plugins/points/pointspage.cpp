@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <brisa/elidedlabel.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <zeplet/interface/interfacemanager.h>
 
 using kit::Tone;
@@ -92,11 +93,12 @@ bool isInBase(const Element &element)
 } // namespace
 
 PointsPage::PointsPage(QWidget *parent)
-    : Page(pluginName(), tr("Points"), parent)
+    : Page(
+        pluginName(), [] { return tr("Points"); }, parent)
     , m_feed(new ArmFeed(pluginName(), this))
-    , m_save(addButton(tr("Save again"), QStringLiteral("savePoints")))
-    , m_new(
-          addButton(tr("Teach a new point"), QStringLiteral("newPoint"), QStringLiteral("primary")))
+    , m_save(addButton([] { return tr("Save again"); }, QStringLiteral("savePoints")))
+    , m_new(addButton([] { return tr("Teach a new point"); }, QStringLiteral("newPoint"),
+                      QStringLiteral("primary")))
 {
     auto *const row = new QHBoxLayout;
     row->setSpacing(metrics::Margin);
@@ -124,29 +126,34 @@ QString PointsPage::pluginName()
     return QStringLiteral("page-points");
 }
 
-QPushButton *PointsPage::makeKey(const QString &text, const char *objectName)
+QPushButton *PointsPage::makeKey(const kit::Text &text, const char *objectName)
 {
-    auto *const key = new QPushButton(text, this);
+    auto *const key = new QPushButton(this);
+    brisa::translated(key, [key, text] { key->setText(text()); });
     key->setObjectName(QLatin1String(objectName));
     return key;
 }
 
 QLayout *PointsPage::makeList()
 {
-    m_table = new kit::Table({tr("Point"), tr("Kind"), tr("Elements")}, this);
+    m_table = new kit::Table(
+        [] {
+            return QStringList {tr("Point"), tr("Kind"), tr("Elements")};
+        },
+        this);
     m_table->setObjectName(QStringLiteral("points"));
     m_table->setWidths({0, KindWidth, ElementsWidth});
     m_table->setMinimumHeight(2 * metrics::Touch);
     m_elements = new QComboBox(this);
     m_elements->setObjectName(QStringLiteral("elements"));
-    m_add = makeKey(tr("Add element"), "addElement");
-    m_removeElement = makeKey(tr("Delete element"), "removeElement");
+    m_add = makeKey([] { return tr("Add element"); }, "addElement");
+    m_removeElement = makeKey([] { return tr("Delete element"); }, "removeElement");
     m_values = new brisa::ElidedLabel(QString(), this);
     m_values->setObjectName(QStringLiteral("values"));
     m_values->setFont(brisa::ThemeManager::font(brisa::TextSize::Caption));
-    m_teach = makeKey(tr("Teach here"), "teachPoint");
-    m_edit = makeKey(tr("Edit values"), "editPoint");
-    m_delete = makeKey(tr("Delete point"), "deletePoint");
+    m_teach = makeKey([] { return tr("Teach here"); }, "teachPoint");
+    m_edit = makeKey([] { return tr("Edit values"); }, "editPoint");
+    m_delete = makeKey([] { return tr("Delete point"); }, "deletePoint");
     auto *const elements = new QHBoxLayout;
     elements->setSpacing(metrics::Grid);
     elements->addWidget(m_elements, 1);

@@ -37,7 +37,7 @@ protected:
 private:
     QLayout *makeList();
     QWidget *makeArm();
-    QPushButton *makeKey(const QString &text, const char *objectName);
+    QPushButton *makeKey(const kit::Text &text, const char *objectName);
     void refreshChosen();
     void refreshElements(const Point *point);
     void refreshKeys(const Point *point, const Element *element);

@@ -47,17 +47,20 @@ QString subtitle(int count)
 } // namespace
 
 ProjectsPage::ProjectsPage(QWidget *parent)
-    : Page(pluginName(), tr("Projects"), parent)
-    , m_table(new kit::Table({tr("Name"), tr("State"), tr("Created")}, this))
-    , m_open(addButton(tr("Open"), QStringLiteral("openProject")))
-    , m_remove(addButton(tr("Remove"), QStringLiteral("removeProject")))
+    : Page(
+        pluginName(), [] { return tr("Projects"); }, parent)
+    , m_table(new kit::Table(
+          [] {
+              return QStringList {tr("Name"), tr("State"), tr("Created")};
+          },
+          this))
+    , m_open(addButton([] { return tr("Open"); }, QStringLiteral("openProject")))
+    , m_remove(addButton([] { return tr("Remove"); }, QStringLiteral("removeProject")))
 {
-    const QPushButton *const create
-        = addButton(tr("New project"), QStringLiteral("newProject"), QStringLiteral("primary"));
+    const QPushButton *const create = addButton(
+        [] { return tr("New project"); }, QStringLiteral("newProject"), QStringLiteral("primary"));
     m_table->setObjectName(QStringLiteral("projects"));
     m_table->setWidths({0, MarksWidth, -CreatedWidth});
-    m_table->setEmptyState(brisa::Glyph::Folder, tr("No projects yet"),
-                           tr("\"New project\" makes the first one for this robot."));
     body()->addWidget(m_table, 1);
     connect(create, &QPushButton::clicked, this, &ProjectsPage::askForNew);
     connect(m_open, &QPushButton::clicked, this, [this] { open(m_table->currentKey()); });
@@ -81,6 +84,8 @@ void ProjectsPage::refresh()
     for (const Project &project : qAsConst(m_projects))
         rows.append(rowOf(project));
     m_table->setRows(rows);
+    m_table->setEmptyState(brisa::Glyph::Folder, tr("No projects yet"),
+                           tr("\"New project\" makes the first one for this robot."));
     setSubtitle(subtitle(rows.size()));
     refreshButtons();
 }

@@ -7,16 +7,18 @@
 #include <QVariant>
 #include <brisa/elidedlabel.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
 
-FilterCard::FilterCard(const QString &title, QWidget *parent)
+FilterCard::FilterCard(const kit::Text &title, QWidget *parent)
     : QFrame(parent)
-    , m_title(new brisa::ElidedLabel(title, this))
+    , m_title(new brisa::ElidedLabel(QString(), this))
     , m_meaning(new brisa::ElidedLabel(QString(), this))
 {
     setProperty("role", QStringLiteral("card"));
+    brisa::translated(m_title, [this, title] { m_title->setText(title()); });
     m_title->setFont(ThemeManager::font(brisa::TextSize::Body, true));
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(2 * metrics::Margin + kit::LampSize, metrics::Margin,

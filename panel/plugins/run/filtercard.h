@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kit/text.h"
+
 #include <QFrame>
 
 namespace brisa
@@ -14,7 +16,7 @@ class FilterCard : public QFrame
     Q_OBJECT
 
 public:
-    explicit FilterCard(const QString &title, QWidget *parent = nullptr);
+    explicit FilterCard(const kit::Text &title, QWidget *parent = nullptr);
 
     void setState(bool on, const QString &meaning);
 

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
 
@@ -68,7 +69,8 @@ void drawKey(QPushButton *key, Glyph glyph, const char *role)
 } // namespace
 
 RunPage::RunPage(QWidget *parent)
-    : Page(pluginName(), tr("Run"), parent)
+    : Page(
+        pluginName(), [] { return tr("Run"); }, parent)
 {
     body()->addWidget(makeCards());
     body()->addWidget(makeKeys(), 1);
@@ -98,9 +100,10 @@ QWidget *RunPage::makeCards()
     auto *const row = new QHBoxLayout(cards);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::Margin);
-    m_program = new StateCard(tr("Program"), QString(), cards);
-    m_mode = new StateCard(tr("Operating mode"), QStringLiteral("switchMode"), cards);
-    m_power = new StateCard(tr("Motors"), QStringLiteral("switchPower"), cards);
+    m_program = new StateCard([] { return tr("Program"); }, QString(), cards);
+    m_mode
+        = new StateCard([] { return tr("Operating mode"); }, QStringLiteral("switchMode"), cards);
+    m_power = new StateCard([] { return tr("Motors"); }, QStringLiteral("switchPower"), cards);
     for (StateCard *const card : {m_program, m_mode, m_power})
         row->addWidget(card, 1);
     connect(m_mode, &StateCard::tapped, this, &RunPage::switchMode);
@@ -116,7 +119,8 @@ QWidget *RunPage::makeKeys()
     column->setSpacing(metrics::Grid);
     auto *const row = new QHBoxLayout;
     row->setSpacing(metrics::Margin);
-    m_start = new QPushButton(tr("  Start"), keys);
+    m_start = new QPushButton(keys);
+    brisa::translated(m_start, [this] { m_start->setText(tr("  Start")); });
     m_start->setObjectName(QStringLiteral("runStart"));
     m_stop = new QPushButton(keys);
     m_stop->setObjectName(QStringLiteral("runStop"));
@@ -145,8 +149,8 @@ QWidget *RunPage::makeFilters()
     auto *const cards = new QHBoxLayout(row);
     cards->setContentsMargins(0, 0, 0, 0);
     cards->setSpacing(metrics::Margin);
-    m_startFilter = new FilterCard(tr("Start filter"), row);
-    m_stopFilter = new FilterCard(tr("Stop filter"), row);
+    m_startFilter = new FilterCard([] { return tr("Start filter"); }, row);
+    m_stopFilter = new FilterCard([] { return tr("Stop filter"); }, row);
     cards->addWidget(m_startFilter, 1);
     cards->addWidget(m_stopFilter, 1);
     return row;

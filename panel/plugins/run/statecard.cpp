@@ -8,6 +8,7 @@
 #include <QVariant>
 #include <brisa/elidedlabel.h>
 #include <brisa/thememanager.h>
+#include <brisa/translated.h>
 
 using brisa::TextSize;
 using brisa::ThemeManager;
@@ -47,7 +48,7 @@ QPixmap disc(brisa::Glyph glyph, kit::Tone tone, qreal ratio)
 
 } // namespace
 
-StateCard::StateCard(const QString &caption, const QString &buttonName, QWidget *parent)
+StateCard::StateCard(const kit::Text &caption, const QString &buttonName, QWidget *parent)
     : QFrame(parent)
     , m_picture(new QLabel(this))
     , m_caption(makeLine(TextSize::Body, false, this))
@@ -55,7 +56,7 @@ StateCard::StateCard(const QString &caption, const QString &buttonName, QWidget 
     , m_hint(makeLine(TextSize::Body, false, this))
 {
     setProperty("role", QStringLiteral("card"));
-    m_caption->setText(caption);
+    brisa::translated(m_caption, [this, caption] { m_caption->setText(caption()); });
     auto *const grid = new QGridLayout(this);
     grid->setContentsMargins(metrics::Margin + Strip, metrics::Margin, metrics::Margin,
                              metrics::Margin);

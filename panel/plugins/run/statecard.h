@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/marks.h"
+#include "kit/text.h"
 
 #include <QFrame>
 #include <brisa/glyph.h>
@@ -21,7 +22,7 @@ class StateCard : public QFrame
 
 public:
     /** buttonName: its object name; empty: the card has no button. */
-    StateCard(const QString &caption, const QString &buttonName, QWidget *parent = nullptr);
+    StateCard(const kit::Text &caption, const QString &buttonName, QWidget *parent = nullptr);
 
     void setState(brisa::Glyph glyph, kit::Tone tone, const QString &value, const QString &hint);
     void setButton(const QString &text, bool enabled);

@@ -10,6 +10,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <brisa/translated.h>
 #include <cmath>
 #include <zeplet/interface/interfacemanager.h>
 
@@ -97,12 +98,14 @@ bool fits(const QString &text, const QString &search)
 } // namespace
 
 SignalsPage::SignalsPage(QWidget *parent)
-    : Page(pluginName(), tr("Signals"), parent)
+    : Page(
+        pluginName(), [] { return tr("Signals"); }, parent)
     , m_simulated(new kit::NoticeLine(kit::NoticeLine::Kept, this))
     , m_simulation(nullptr)
 {
     buildSelection();
-    m_simulation = addButton(tr("Simulate inputs"), QStringLiteral("simulateInputs"));
+    m_simulation
+        = addButton([] { return tr("Simulate inputs"); }, QStringLiteral("simulateInputs"));
     connect(m_simulation, &QPushButton::clicked, this, &SignalsPage::toggleSimulation);
     body()->insertWidget(0, m_simulated);
     buildTables();
@@ -127,13 +130,17 @@ void SignalsPage::buildSelection()
     m_tabs->setExpanding(false);
     m_tabs->setDrawBase(false);
     for (int i = 1; i <= SignalTypes; ++i)
-        m_tabs->setTabToolTip(m_tabs->addTab(shortName(static_cast<SignalType>(i))),
-                              longName(static_cast<SignalType>(i)));
-    m_tabs->addTab(tr("Registers"));
+        m_tabs->addTab(shortName(static_cast<SignalType>(i)));
+    m_tabs->addTab(QString());
+    brisa::translated(m_tabs, [this] {
+        for (int i = 1; i <= SignalTypes; ++i)
+            m_tabs->setTabToolTip(i - 1, longName(static_cast<SignalType>(i)));
+        m_tabs->setTabText(SignalTypes, tr("Registers"));
+    });
     body()->addWidget(m_tabs);
     m_search = new QLineEdit(this);
     m_search->setObjectName(QStringLiteral("signalSearch"));
-    m_search->setPlaceholderText(tr("Find"));
+    brisa::translated(m_search, [this] { m_search->setPlaceholderText(tr("Find")); });
     m_search->setFixedWidth(SearchWidth);
     addToHeader(m_search);
     connect(m_tabs, &QTabBar::currentChanged, this, [this] { refresh(); });
@@ -142,12 +149,16 @@ void SignalsPage::buildSelection()
 
 void SignalsPage::buildTables()
 {
-    m_table = new kit::Table({tr("Signal"), tr("Value"), tr("Use"), QString()}, this);
+    m_table = new kit::Table(
+        [] {
+            return QStringList {tr("Signal"), tr("Value"), tr("Use"), QString()};
+        },
+        this);
     m_table->setObjectName(QStringLiteral("signals"));
     m_table->setWidths({0, ValueWidth, -MarkWidth, ButtonWidth});
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_table, &kit::Table::buttonTapped, this, &SignalsPage::tap);
-    m_registers = new kit::Table({tr("Register"), tr("Values")}, this);
+    m_registers = new kit::Table([] { return QStringList {tr("Register"), tr("Values")}; }, this);
     m_registers->setObjectName(QStringLiteral("registers"));
     m_registers->setSelectionMode(QAbstractItemView::NoSelection);
     m_registers->setWidths({0, 0});

@@ -2,6 +2,7 @@
 
 #include "pluginrow.h"
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QJsonObject>
 #include <QLabel>
@@ -9,10 +10,16 @@
 #include <QScrollArea>
 #include <QScroller>
 #include <QVBoxLayout>
+#include <brisa/languagemanager.h>
+#include <brisa/managerhelper.h>
+#include <brisa/settingmanager.h>
+#include <brisa/translated.h>
 #include <memory>
 #include <zeplet/events/zepleteventsystem.h>
 #include <zeplet/interface/interfacemanager.h>
 #include <zeplet/plugin/uiservices.h>
+
+using brisa::LanguageManager;
 
 namespace
 {
@@ -20,16 +27,43 @@ namespace
 constexpr int Margin = 24;
 constexpr int Spacing = 16;
 
+QLabel *makeLabel(const kit::Text &text, const QString &role, QWidget *parent)
+{
+    auto *const label = new QLabel(parent);
+    label->setProperty("role", role);
+    brisa::translated(label, [=] { label->setText(text()); });
+    return label;
+}
+
 /** Adds a line with a name and a value; the value's label. */
-QLabel *addLine(QGridLayout *grid, const QString &name, const QString &value = QString())
+QLabel *addLine(QGridLayout *grid, const kit::Text &name, const QString &value = QString())
 {
     auto *const label = new QLabel(value);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int row = grid->rowCount();
-    grid->addWidget(new QLabel(name), row, 0);
+    grid->addWidget(makeLabel(name, QString(), grid->parentWidget()), row, 0);
     grid->addWidget(label, row, 1);
     return label;
+}
+
+/** The languages by their own names: who can't read the panel finds the one to choose. */
+QComboBox *makeLanguageChoice(QWidget *parent)
+{
+    auto *const choice = new QComboBox(parent);
+    choice->setObjectName(QStringLiteral("language"));
+    for (const QString &code : LanguageManager::languages())
+        choice->addItem(LanguageManager::languageName(code), code);
+    brisa::translated(choice, [choice] {
+        choice->setCurrentIndex(choice->findData(LanguageManager::instance()->language()));
+        choice->setAccessibleName(SystemPage::tr("Language"));
+    });
+    QObject::connect(choice, QOverload<int>::of(&QComboBox::activated), choice, [choice] {
+        const QString code = choice->currentData().toString();
+        brisa::ManagerHelper::instance()->settingManager()->set(QStringLiteral("language"), code);
+        LanguageManager::instance()->setLanguage(code);
+    });
+    return choice;
 }
 
 QString hostVersion()
@@ -43,8 +77,11 @@ SystemPage::SystemPage(QWidget *parent)
     : QWidget(parent)
     , m_rowArea(new QWidget)
 {
-    auto *const title = new QLabel(tr("Plugins"), this);
-    title->setProperty("role", QStringLiteral("heading"));
+    auto *const header = new QHBoxLayout;
+    header->setSpacing(Spacing);
+    header->addWidget(makeLabel([] { return tr("Plugins"); }, QStringLiteral("heading"), this), 1);
+    header->addWidget(makeLabel([] { return tr("Language"); }, QStringLiteral("muted"), this));
+    header->addWidget(makeLanguageChoice(this));
 
     auto *const cards = new QHBoxLayout;
     cards->setSpacing(Spacing);
@@ -67,41 +104,43 @@ SystemPage::SystemPage(QWidget *parent)
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(Spacing);
-    column->addWidget(title);
+    column->addLayout(header);
     column->addLayout(cards);
     column->addWidget(scroll, 1);
+    brisa::translated(this, [this] { forgetPlugins(); });
 }
 
-QWidget *SystemPage::makeCard(const QString &title, QGridLayout **grid)
+QWidget *SystemPage::makeCard(const kit::Text &title, QGridLayout **grid)
 {
     auto *const card = new QFrame(this);
     card->setProperty("role", QStringLiteral("card"));
     *grid = new QGridLayout(card);
     (*grid)->setContentsMargins(Spacing, Spacing, Spacing, Spacing);
     (*grid)->setColumnStretch(1, 1);
-    auto *const label = new QLabel(title, card);
-    label->setProperty("role", QStringLiteral("title"));
-    (*grid)->addWidget(label, 0, 0, 1, 2);
+    (*grid)->addWidget(makeLabel(title, QStringLiteral("title"), card), 0, 0, 1, 2);
     return card;
 }
 
 QWidget *SystemPage::makeVersions()
 {
     QGridLayout *grid = nullptr;
-    QWidget *const card = makeCard(tr("Versions"), &grid);
-    addLine(grid, tr("Plugin library"), zeplet::GetPluginVersion());
-    addLine(grid, tr("Panel"), hostVersion());
-    addLine(grid, tr("Qt"), QString::fromLatin1(qVersion()));
+    QWidget *const card = makeCard([] { return tr("Versions"); }, &grid);
+    addLine(
+        grid, [] { return tr("Plugin library"); }, zeplet::GetPluginVersion());
+    addLine(
+        grid, [] { return tr("Panel"); }, hostVersion());
+    addLine(
+        grid, [] { return QStringLiteral("Qt"); }, QString::fromLatin1(qVersion()));
     return card;
 }
 
 QWidget *SystemPage::makeStatistics()
 {
     QGridLayout *grid = nullptr;
-    QWidget *const card = makeCard(tr("Event bus"), &grid);
-    m_published = addLine(grid, tr("Events published"));
-    m_handled = addLine(grid, tr("Handlers called"));
-    m_subscriptions = addLine(grid, tr("Subscriptions"));
+    QWidget *const card = makeCard([] { return tr("Event bus"); }, &grid);
+    m_published = addLine(grid, [] { return tr("Events published"); });
+    m_handled = addLine(grid, [] { return tr("Handlers called"); });
+    m_subscriptions = addLine(grid, [] { return tr("Subscriptions"); });
     return card;
 }
 
@@ -113,7 +152,8 @@ void SystemPage::refresh()
 
 void SystemPage::refreshStatistics()
 {
-    const QLocale locale;
+    QLocale locale = LanguageManager::instance()->locale();
+    locale.setNumberOptions(QLocale::DefaultNumberOptions); // events are many: thousands apart
     zeplet::ZepletEventSystem *const bus = zeplet::zepletEvent();
     m_published->setText(locale.toString(bus->totalEventsPublished()));
     m_handled->setText(locale.toString(bus->totalEventsHandled()));
@@ -134,6 +174,12 @@ void SystemPage::refreshPlugins()
         connect(row, &PluginRow::tryAgain, this, &SystemPage::tryAgain);
         m_rows->insertWidget(at++, row);
     }
+}
+
+void SystemPage::forgetPlugins()
+{
+    m_shown = QJsonArray();
+    clearRows();
 }
 
 // A row may be in its button's click.

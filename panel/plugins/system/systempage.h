@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kit/text.h"
+
 #include <QJsonArray>
 #include <QWidget>
 
@@ -7,7 +9,8 @@ class QGridLayout;
 class QLabel;
 class QVBoxLayout;
 
-/** The plugins with their state, the versions, and the bus's statistics. */
+/** The plugins with their state, the versions, the bus's statistics, and the choice of the panel's
+ * language. */
 class SystemPage : public QWidget
 {
     Q_OBJECT
@@ -22,11 +25,12 @@ Q_SIGNALS:
     void tryAgain(const QString &name);
 
 private:
-    QWidget *makeCard(const QString &title, QGridLayout **grid);
+    QWidget *makeCard(const kit::Text &title, QGridLayout **grid);
     QWidget *makeVersions();
     QWidget *makeStatistics();
     void refreshStatistics();
     void refreshPlugins();
+    void forgetPlugins();
     void clearRows();
 
     QVBoxLayout *m_rows;

@@ -78,15 +78,21 @@ struct ValueField {
 } // namespace
 
 VariablesPage::VariablesPage(QWidget *parent)
-    : Page(pluginName(), tr("Variables"), parent)
+    : Page(
+        pluginName(), [] { return tr("Variables"); }, parent)
     , m_live(new LiveValues(pluginName(), this))
     , m_unsupported(new kit::NoticeLine(kit::NoticeLine::Kept, this))
     , m_table(new kit::Table(
-          {tr("Variable"), tr("Type"), tr("Value"), tr("Kept"), tr("On the controller")}, this))
-    , m_save(addButton(tr("Save again"), QStringLiteral("saveVariables")))
-    , m_change(addButton(tr("Change"), QStringLiteral("changeVariable")))
-    , m_delete(addButton(tr("Delete"), QStringLiteral("deleteVariable")))
-    , m_add(addButton(tr("New variable"), QStringLiteral("newVariable"), QStringLiteral("primary")))
+          [] {
+              return QStringList {tr("Variable"), tr("Type"), tr("Value"), tr("Kept"),
+                                  tr("On the controller")};
+          },
+          this))
+    , m_save(addButton([] { return tr("Save again"); }, QStringLiteral("saveVariables")))
+    , m_change(addButton([] { return tr("Change"); }, QStringLiteral("changeVariable")))
+    , m_delete(addButton([] { return tr("Delete"); }, QStringLiteral("deleteVariable")))
+    , m_add(addButton([] { return tr("New variable"); }, QStringLiteral("newVariable"),
+                      QStringLiteral("primary")))
 {
     m_table->setObjectName(QStringLiteral("variables"));
     m_table->setWidths({0, TypeWidth, 0, MarkWidth, LiveWidth});

@@ -49,6 +49,9 @@ class Kit:
         raise Problem(f"The library's headers and CMake files are missing below {self.prefix}: "
                       "install the package libzeplet-dev.")
 
+    def has_test_kit(self):
+        return (self.package.parent / "ZepletTest").is_dir()
+
     @property
     def version(self):
         text = (self.package / "ZepletConfigVersion.cmake").read_text(encoding="utf-8")

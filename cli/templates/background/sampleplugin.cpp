@@ -1,0 +1,88 @@
+// Counts the program's starts and shows the count in the status bar, whatever page is open.
+#include <zeplet/zeplet.h>
+
+#include <QLabel>
+#include <QPointer>
+#include <QVBoxLayout>
+
+using namespace zeplet;
+
+namespace
+{
+const QString pluginName = QStringLiteral("sample");
+}
+
+class SamplePlugin : public PluginBase
+{
+    Q_OBJECT
+
+public:
+    explicit SamplePlugin(QObject *parent)
+        : PluginBase(parent)
+    {
+        // The navigation's title, which translations may replace.
+        setPluginLabel(QStringLiteral(QT_TRANSLATE_NOOP("navigation", "Sample label")));
+    }
+
+    void init() override;
+    void detach() override;
+
+private:
+    void createPage();
+    void showStarts();
+
+    QPointer<QWidget> m_page;
+    QPointer<QLabel> m_status;
+    int m_starts = 0;
+};
+
+void SamplePlugin::init()
+{
+    createPage();
+    m_status = new QLabel;
+    m_status->setObjectName("sample_starts");
+    CreateStatusBar(pluginName, m_status, 0);
+    showStarts();
+
+    // With the plugin as its context, the subscription ends when the plugin goes.
+    const auto count = [this](const ZepletEvent &) {
+        ++m_starts;
+        showStarts();
+    };
+    zepletEvent()->subscribe(RCRunStart, count, pluginName, this);
+}
+
+// The last call: leave nothing behind.
+void SamplePlugin::detach()
+{
+    delete m_status;
+    delete m_page;
+}
+
+void SamplePlugin::createPage()
+{
+    m_page = new QWidget;
+    auto *text = new QLabel(tr("The status bar counts how often the program was started since the "
+                               "panel began to run."));
+    text->setWordWrap(true);
+    auto *layout = new QVBoxLayout(m_page);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->addWidget(text);
+    layout->addStretch();
+    CreateCenterWidget(pluginName, m_page);
+}
+
+// The host owns the status bar's entry: it may be gone.
+void SamplePlugin::showStarts()
+{
+    if (m_status)
+        m_status->setText(tr("Starts: %1").arg(m_starts));
+}
+
+// Runs when the panel loads the library: from here on it knows the plugin by name.
+static const bool registered = [] {
+    zepletFactory().regist(pluginName, [](QObject *parent) { return new SamplePlugin(parent); });
+    return true;
+}();
+
+#include "sampleplugin.moc"

@@ -1,0 +1,83 @@
+"""Builds the plugin in this directory, and its tests, into build/."""
+
+import os
+import shutil
+import subprocess
+
+from .problem import Problem
+from .project import Project
+
+# What a message of CMake means for an author.
+MISSING = {
+    'provided by "Qt5': "Qt's headers are missing: install the package qtbase5-dev.",
+    'provided by "Zeplet': "The library's headers are missing: install the package libzeplet-dev.",
+    "No CMAKE_CXX_COMPILER could be found": "A C++ compiler is missing: install the package g++.",
+}
+PROGRAMS = {"cmake": "cmake", "ninja": "ninja-build"}
+COMPILERS = ("c++", "g++", "clang++")
+
+
+def add_arguments(_):
+    pass
+
+
+def run(arguments):
+    project = Project.needed("build")
+    build(arguments.kit, project)
+    return 0
+
+
+def build(kit, project, target="all"):
+    """Configures where that is necessary, and builds; errors of the compiler go to the terminal."""
+    configure(kit, project)
+    command = ["cmake", "--build", project.build, "--target", target]
+    if subprocess.run(command, stdin=subprocess.DEVNULL, check=False).returncode != 0:
+        raise Problem("The build failed: the messages above say why.")
+    if (project.build / "build.ninja").exists():
+        # A plugin that was renamed would be loaded under its former name, too.
+        subprocess.run(["ninja", "-C", project.build, "-t", "cleandead"], stdin=subprocess.DEVNULL,
+                       stdout=subprocess.DEVNULL, check=False)
+
+
+def configure(kit, project):
+    """Lets CMake make the build, with this kit; a build that has it already is left alone."""
+    check_tools()
+    cache = project.cache()
+    other = cache.get("CMAKE_HOME_DIRECTORY", str(project.root))
+    if os.path.realpath(other) != os.path.realpath(project.root):
+        raise Problem(f"{project.build} belongs to {other}: remove it, then try again.")
+    entries = packages(kit)
+    made = any((project.build / file).exists() for file in ("build.ninja", "Makefile"))
+    if made and entries.items() <= cache.items():
+        return
+    command = ["cmake", "-S", project.root, "-B", project.build]
+    if not cache:
+        command += ["-G", "Ninja"]
+        entries.update(CMAKE_BUILD_TYPE="Debug", CMAKE_PREFIX_PATH=str(kit.prefix))
+    command += [f"-D{name}={value}" for name, value in entries.items()]
+    done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True, errors="replace", check=False)
+    if done.returncode != 0:
+        explain(done.stdout)
+
+
+def packages(kit):
+    """The CMake packages are those of this kit, whatever else the machine has."""
+    found = kit.package.parent.glob("Zeplet*")
+    return {f"{package.name}_DIR": str(package) for package in sorted(found)}
+
+
+def check_tools():
+    for program, package in PROGRAMS.items():
+        if not shutil.which(program):
+            raise Problem(f"{program} is missing: install the package {package}.")
+    if not os.environ.get("CXX") and not any(shutil.which(name) for name in COMPILERS):
+        raise Problem("A C++ compiler is missing: install the package g++.")
+
+
+def explain(output):
+    for message, sentence in MISSING.items():
+        if message in output:
+            raise Problem(sentence)
+    print(output)
+    raise Problem("The project can't be configured: CMake's messages above say why.")

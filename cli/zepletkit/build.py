@@ -4,6 +4,7 @@ import os
 import shutil
 import subprocess
 
+from . import processes
 from .problem import Problem
 from .project import Project
 
@@ -31,7 +32,7 @@ def build(kit, project, target="all"):
     """Configures where that is necessary, and builds; errors of the compiler go to the terminal."""
     configure(kit, project)
     command = ["cmake", "--build", project.build, "--target", target]
-    if subprocess.run(command, stdin=subprocess.DEVNULL, check=False).returncode != 0:
+    if processes.run(command) != 0:
         raise Problem("The build failed: the messages above say why.")
     if (project.build / "build.ninja").exists():
         # A plugin that was renamed would be loaded under its former name, too.

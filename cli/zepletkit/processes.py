@@ -1,5 +1,6 @@
 """Child processes: started without a shell, ended in order, and never left behind."""
 
+import os
 import shutil
 import signal
 import subprocess
@@ -16,6 +17,18 @@ def start(command, **options):
     if guard:
         command = [guard, "--pdeathsig", "TERM", "--", *command]
     return subprocess.Popen([str(word) for word in command], start_new_session=True, **options)
+
+
+def run(command):
+    """Runs a program that starts others, and waits for it; the exit code. Its lines go to the
+    terminal. What interrupts this process ends all of them."""
+    process = start(command, stdin=subprocess.DEVNULL)
+    try:
+        return process.wait()
+    except BaseException:
+        os.killpg(process.pid, signal.SIGTERM)
+        process.wait()
+        raise
 
 
 def end(process):

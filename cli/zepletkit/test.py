@@ -2,6 +2,7 @@
 
 import subprocess
 
+from . import processes
 from .build import build
 from .problem import Problem
 from .project import Project
@@ -17,8 +18,7 @@ def run(arguments):
     build(arguments.kit, project)
     require_tests(arguments.kit, project)
     command = ["ctest", "--test-dir", project.build, "--output-on-failure", *arguments.words]
-    done = subprocess.run(command, stdin=subprocess.DEVNULL, check=False)
-    return 0 if done.returncode == 0 else 1
+    return 0 if processes.run(command) == 0 else 1
 
 
 def require_tests(kit, project):

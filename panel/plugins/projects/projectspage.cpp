@@ -27,7 +27,7 @@ kit::Row rowOf(const Project &project)
     name.hint = project.description;
     kit::Cell state;
     if (project.open)
-        state.marks.append(Mark {ProjectsPage::tr("Open"), Tone::Ok});
+        state.marks.append(Mark {ProjectsPage::tr("Open", "state of a project"), Tone::Ok});
     if (project.autoload)
         state.marks.append(Mark {ProjectsPage::tr("Loads at start"), Tone::Accent});
     kit::Cell created;

@@ -100,6 +100,7 @@ public:
     bool startSession();
     bool checkPlugins();
     bool openProject();
+    void enterStep(const QString &module);
     QStringList plugins() const;
     bool waitForFrames(int frames) const;
 
@@ -124,10 +125,6 @@ TestPanel::Private::~Private()
     if (session)
         session->finish();
     session.reset();
-    if (bus) {
-        for (const BusWatch::Subscription &left : bus->subscriptions())
-            zepletEvent()->unsubscribe(left.id);
-    }
     oneLives = false;
 }
 
@@ -205,7 +202,6 @@ bool TestPanel::Private::startSession()
 {
     host = std::make_unique<HostState>();
     bus = std::make_unique<BusWatch>();
-    leftovers = std::make_unique<Leftovers>(*bus);
     QObject::connect(brisa::ManagerHelper::instance(), &brisa::ManagerHelper::logThrown, &context,
                      [this](QObject *, const QString &level, const QString &text) {
                          banners += level + QStringLiteral(": ") + text;
@@ -217,10 +213,18 @@ bool TestPanel::Private::startSession()
     options.ownPlugins = false;
     session = std::make_unique<panel::PanelSession>(options);
     QObject::connect(session.get(), &panel::PanelSession::stepStarted, &context,
-                     [this](const QString &module) { bus->setStep(module); });
+                     [this](const QString &module) { enterStep(module); });
     QObject::connect(session.get(), &panel::PanelSession::stepFinished, &context,
                      [this] { bus->setStep(QString()); });
     return session->start(&problem);
+}
+
+/** The first step is the last moment without a plugin. */
+void TestPanel::Private::enterStep(const QString &module)
+{
+    if (!leftovers)
+        leftovers = std::make_unique<Leftovers>(*bus, *simulator, &session->window());
+    bus->setStep(module);
 }
 
 bool TestPanel::Private::checkPlugins()
@@ -380,7 +384,8 @@ bool TestPanel::expectBanner(const QString &level, const QString &part, int time
         || d->fail(QStringLiteral("No banner \"%1: ...%2...\" came within %3 ms; there came: %4.")
                        .arg(level, part)
                        .arg(timeout)
-                       .arg(d->banners.join(QStringLiteral(" | "))));
+                       .arg(d->banners.isEmpty() ? QStringLiteral("nothing")
+                                                 : d->banners.join(QStringLiteral(" | "))));
 }
 
 QStringList TestPanel::banners() const
@@ -452,9 +457,7 @@ QStringList TestPanel::detach(const QString &plugin)
                     .arg(plugin, plugins.join(QStringLiteral(", "))));
         return {d->problem};
     }
-    d->session->runner().stop(plugin);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return d->leftovers->of(plugin, plugins);
+    return d->leftovers->detach(d->session->runner(), plugin, plugins);
 }
 
 } // namespace test

@@ -50,6 +50,11 @@ QString KeyedWidgets::keyOf(const QWidget *widget) const
     return {};
 }
 
+QStringList KeyedWidgets::keys() const
+{
+    return m_entries.keys();
+}
+
 void KeyedWidgets::watch(QObject *module)
 {
     if (module)

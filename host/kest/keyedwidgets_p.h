@@ -1,8 +1,11 @@
 #pragma once
 
+#include "hostexport.h"
+
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 namespace kest
@@ -12,7 +15,7 @@ namespace kest
  * The keyed widgets that modules put into one container. A widget leaves the table when it is
  * deleted or taken out, and leaves the container with its module. The container is the parent.
  */
-class KeyedWidgets : public QObject
+class HOST_EXPORT KeyedWidgets : public QObject
 {
     Q_OBJECT
 
@@ -29,6 +32,8 @@ public:
     /** The module that added the widget; null for the host's and for an unknown key. */
     QObject *owner(const QString &key) const;
     QString keyOf(const QWidget *widget) const;
+    /** In no particular order. */
+    QStringList keys() const;
 
 private:
     struct Entry {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brisa/physicalbutton.h"
+#include "hostexport.h"
 
 #include <QList>
 #include <QObject>
@@ -25,7 +26,7 @@ using KeyPagePtr = QSharedPointer<KeyPage>;
 
 /** All registered pages of keys, in the order of registration. A module's pages go with it, and
  *  their callbacks are dropped at once. GUI thread. */
-class PhysicalButtonRegistry : public QObject
+class HOST_EXPORT PhysicalButtonRegistry : public QObject
 {
     Q_OBJECT
 
@@ -36,6 +37,8 @@ public:
                       const QList<brisa::PhysicalButton> &first,
                       const QList<brisa::PhysicalButton> &second, const QStringList &extra);
     void setEnabled(QObject *module, const QString &name, bool enabled);
+    /** Drops all pages of a module, of null those that are nobody's. */
+    void removeOwnedBy(QObject *module);
 
     const QList<KeyPagePtr> &pages() const;
     /** The page of keys to show beside a centre page: the one that bears its key as name, names it
@@ -53,7 +56,6 @@ Q_SIGNALS:
 private:
     PhysicalButtonRegistry() = default;
     KeyPagePtr find(const QObject *module, const QString &name) const;
-    void removeOwnedBy(QObject *module);
 
     QList<KeyPagePtr> m_pages;
 };

@@ -269,6 +269,7 @@ Q_SIGNALS:
     void sigNetworkDisConnect(bool status);
 
 private:
+    friend class InterfaceWatches;
     class InterfaceManagerPrivate;
     InterfaceManagerPrivate *d;
 };

@@ -1,4 +1,5 @@
 #include <zeplet/interface/interfacemanager_p.h>
+#include <zeplet/interface/interfacewatches_p.h>
 
 #include <nexo/nexo.h>
 #include <zeplet/events/zepleteventfilters.h>
@@ -167,6 +168,16 @@ QString InterfaceManager::connectNetworkStatus(bool onConnect, const QString &su
 bool InterfaceManager::disconnectNetworkStatus(bool, const QString &, const QString &subscriptionId)
 {
     return !subscriptionId.isEmpty() && zepletEvent()->unsubscribe(subscriptionId);
+}
+
+InterfaceWatches::Ids InterfaceWatches::hubKeys()
+{
+    return zepletInterface()->d->nexoSubscriptions;
+}
+
+InterfaceWatches::Ids InterfaceWatches::notifyPaths()
+{
+    return zepletInterface()->d->rcNotifySubscriptions;
 }
 
 } // namespace zeplet

@@ -16,6 +16,13 @@ BusWatch::BusWatch()
     connect(bus, &ZepletEventSystem::subscriptionAdded, this, &BusWatch::add, Qt::DirectConnection);
 }
 
+BusWatch::~BusWatch()
+{
+    disconnect(zepletEvent(), nullptr, this, nullptr);
+    for (const Subscription &made : qAsConst(m_subscriptions))
+        zepletEvent()->unsubscribe(made.id);
+}
+
 std::optional<ZepletEvent> BusWatch::last(ZepletEventType type) const
 {
     const QMutexLocker lock(&m_mutex);
@@ -39,7 +46,7 @@ QString BusWatch::summary() const
     QStringList parts;
     for (auto count = counts.cbegin(); count != counts.cend(); ++count)
         parts += *count == 1 ? count.key() : QStringLiteral("%1 (%2)").arg(count.key()).arg(*count);
-    return parts.join(QStringLiteral(", "));
+    return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
 }
 
 void BusWatch::clear()
@@ -56,16 +63,8 @@ void BusWatch::setStep(const QString &plugin)
 
 QVector<BusWatch::Subscription> BusWatch::subscriptions() const
 {
-    QVector<Subscription> made;
-    {
-        const QMutexLocker lock(&m_mutex);
-        made = m_subscriptions;
-    }
-    const auto isGone = [](const Subscription &subscription) {
-        return !zepletEvent()->hasSubscription(subscription.id);
-    };
-    made.erase(std::remove_if(made.begin(), made.end(), isGone), made.end());
-    return made;
+    const QMutexLocker lock(&m_mutex);
+    return m_subscriptions;
 }
 
 void BusWatch::keep(const ZepletEvent &event)

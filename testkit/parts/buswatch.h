@@ -26,6 +26,8 @@ public:
     };
 
     BusWatch();
+    /** Ends what is left of those subscriptions. */
+    ~BusWatch() override;
 
     /** The last event of the type since clear(). */
     std::optional<ZepletEvent> last(ZepletEventType type) const;
@@ -35,7 +37,7 @@ public:
 
     /** Names the plugin whose steps run on the GUI thread from now on; empty: none. */
     void setStep(const QString &plugin);
-    /** The subscriptions made in this object's life that are still there. */
+    /** The subscriptions made in this object's life, whether or not they are still there. */
     QVector<Subscription> subscriptions() const;
 
 private:

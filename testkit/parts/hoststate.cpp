@@ -1,12 +1,15 @@
 #include "hoststate.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <brisa/thememanager.h>
 #include <kest/modulefactory.h>
+#include <kivra/physicalbuttonregistry_p.h>
 #include <ostrel/moduleobject.h>
 #include <ostrel/pluginmanager.h>
 #include <zeplet/events/zepleteventsystem.h>
 #include <zeplet/interface/interfacemanager.h>
+#include <zeplet/interface/interfacewatches_p.h>
 #include <zeplet/plugin/pluginregister.h>
 
 namespace zeplet
@@ -39,10 +42,19 @@ void bridgeBus()
     bridged->resetStatistics();
 }
 
+void endWatches()
+{
+    for (const QString &key : InterfaceWatches::hubKeys().keys())
+        zepletInterface()->disconnectNexoData(QString(), key, QString());
+    for (const QString &path : InterfaceWatches::notifyPaths().keys())
+        zepletInterface()->disconnectRcNotify(QString(), path, QString());
+}
+
 } // namespace
 
 HostState::HostState()
     : m_modules(bfactory().makers.keys())
+    , m_windows(QApplication::topLevelWidgets())
 {
     emptyStore();
     brisa::ThemeManager::instance()->setTheme(brisa::Theme::Light);
@@ -50,6 +62,24 @@ HostState::HostState()
 }
 
 HostState::~HostState()
+{
+    endWatches();
+    qo::kivra::PhysicalButtonRegistry::instance().removeOwnedBy(nullptr);
+    hideWindows();
+    withdrawModules();
+}
+
+/** Whoever left them may still delete them. */
+void HostState::hideWindows() const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *const window : windows) {
+        if (!m_windows.contains(window))
+            window->hide();
+    }
+}
+
+void HostState::withdrawModules() const
 {
     const QStringList modules = bfactory().makers.keys();
     for (const QString &module : modules) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QWidget>
 
 namespace zeplet
 {
@@ -17,13 +18,17 @@ class HostState
 public:
     /** Empties the store, and sees to the bridge between host and bus. */
     HostState();
-    /** Withdraws what was registered meanwhile, so that another copy of a library may register the
-     *  same names. Call when no module lives any more. */
+    /** Ends watches, and withdraws what was registered meanwhile, so that another copy of a library
+     *  may register the same names. For when no module lives any more. */
     ~HostState();
     Q_DISABLE_COPY(HostState)
 
 private:
-    QStringList m_modules; ///< registered before
+    void hideWindows() const;
+    void withdrawModules() const;
+
+    const QStringList m_modules; ///< registered before
+    const QWidgetList m_windows; ///< there before
 };
 
 } // namespace test

@@ -19,18 +19,21 @@ ALLOWED = {
     "simulator": {"host/link"},
     "panel": {"host"},
     "panel/plugins": {"src", "host"},
-    "examples": {"src", "host"},
+    "testkit": {"panel", "simulator", "src", "host"},
+    "examples": {"src", "host", "testkit"},
 }
 
 # How headers of an area are spelled in an #include: the folder, and what takes its place.
 SPELLINGS = [("src/", "zeplet/"), ("host/", ""), ("base/", ""), ("simulator/", ""),
-             ("simulator/", "simulator/"), ("panel/", ""), ("panel/", "panel/")]
+             ("simulator/", "simulator/"), ("panel/", ""), ("panel/", "panel/"),
+             ("testkit/", "zeplet-test/")]
 
 TARGETS = {
     "zeplet_base": "base",
     "zeplet_link": "host/link",
     "zeplet_host": "host", "Zeplet::Host": "host",
     "zeplet": "src", "Zeplet::zeplet": "src",
+    "zeplet_test_kit": "testkit", "Zeplet::Test": "testkit",
     "zeplet_simulator": "simulator", "Zeplet::Simulator": "simulator",
 }
 

@@ -12,23 +12,28 @@ public:
     {
         auto *const page = new QWidget;
         auto *const layout = new QVBoxLayout(page);
-        auto *const start = new QPushButton(QStringLiteral("&Start"), page);
-        start->setObjectName(QStringLiteral("startKey"));
-        layout->addWidget(start);
+        auto *const close = new QPushButton(QStringLiteral("&Close"), page);
+        close->setObjectName(QStringLiteral("closeKey"));
+        layout->addWidget(close);
         auto *const off = new QPushButton(QStringLiteral("Off"), page);
         off->setEnabled(false);
         layout->addWidget(off);
         layout->addStretch();
-        QObject::connect(start, &QPushButton::clicked, this, [] {
+        QObject::connect(close, &QPushButton::clicked, this, [] {
             zeplet::zepletInterface()->rcRequestFullCommand(QStringLiteral("gripper.close"),
                                                             QJsonObject {{"force", 40}});
             zeplet::ThrowLog(QStringLiteral("mannered"), zeplet::ThrowLogWarning,
                              QStringLiteral("The gripper closes."));
         });
         zeplet::CreateCenterWidget(QStringLiteral("mannered"), page);
-        zeplet::zepletEvent()->subscribe(
-            zeplet::RCRunStart, [](const zeplet::ZepletEvent &) {}, QStringLiteral("mannered"),
-            this);
+        zeplet::zepletInterface()->connectNexoData(
+            QStringLiteral("mannered"), QStringLiteral("gripper.width"), [](const QVariant &) {});
+    }
+
+    void detach() override
+    {
+        zeplet::zepletInterface()->disconnectNexoData(QStringLiteral("mannered"),
+                                                      QStringLiteral("gripper.width"), QString());
     }
 };
 

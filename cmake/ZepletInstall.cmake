@@ -18,12 +18,15 @@ function(zeplet_install_package package target)
     set(directory ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
     set(runtime runtime)
     set(development development)
-    if(ARG_COMPONENT)
+    set(libraries ${CMAKE_INSTALL_LIBDIR})
+    if(ARG_COMPONENT) # what no other package may link
         set(runtime ${ARG_COMPONENT})
         set(development ${ARG_COMPONENT})
+        string(APPEND libraries /zeplet)
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/..")
     endif()
     install(TARGETS ${target} EXPORT ${package}Targets
-            LIBRARY COMPONENT ${runtime} NAMELINK_COMPONENT ${development})
+            LIBRARY DESTINATION ${libraries} COMPONENT ${runtime} NAMELINK_COMPONENT ${development})
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/${ARG_HEADERS}/
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ARG_INTO} COMPONENT ${development}
             FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE ${ARG_EXCEPT})
@@ -40,9 +43,10 @@ function(zeplet_install_package package target)
 endfunction()
 
 zeplet_install_package(Zeplet zeplet HEADERS src INTO zeplet)
-# The plugin function and everything beside it that it needs, and what builds a plugin for 64-bit Arm
-# and runs its tests here.
-file(GLOB plugin_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ZepletPlugin*)
+# The plugin function and everything beside it that it needs, what makes a plugin's package, and what
+# builds a plugin for 64-bit Arm and runs its tests here.
+file(GLOB plugin_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ZepletPlugin*
+                                         ${PROJECT_SOURCE_DIR}/cmake/ZepletDebian*)
 list(APPEND plugin_files ${PROJECT_SOURCE_DIR}/cmake/arm64.cmake)
 set(arm64run ${PROJECT_SOURCE_DIR}/cmake/arm64run)
 install(FILES ${plugin_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Zeplet COMPONENT development)
@@ -52,6 +56,9 @@ foreach(file IN LISTS plugin_files arm64run)
     file(CREATE_LINK ${file} ${PROJECT_BINARY_DIR}/lib/cmake/Zeplet/${name} SYMBOLIC)
 endforeach()
 
+if(ZEPLET_PACKAGES)
+    include(ZepletPackages)
+endif()
 if(ZEPLET_HOST)
     return()
 endif()

@@ -39,6 +39,7 @@ function(zeplet_add_plugin)
     endif()
     if(NOT ARG_NO_INSTALL)
         install(TARGETS ${ARG_TARGET} LIBRARY DESTINATION ${ZEPLET_PLUGIN_INSTALL_DIR})
+        set_property(GLOBAL APPEND PROPERTY ZEPLET_PLUGINS ${ARG_NAME}) # what a package holds
     endif()
 endfunction()
 

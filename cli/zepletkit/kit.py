@@ -2,6 +2,7 @@
 
 import os
 import re
+import sysconfig
 from pathlib import Path
 
 from .problem import Problem
@@ -42,7 +43,8 @@ class Kit:
     @property
     def package(self):
         """The directory of the CMake package."""
-        for pattern in ("lib/cmake/Zeplet", "lib/*/cmake/Zeplet", "lib*/cmake/Zeplet"):
+        own = sysconfig.get_config_var("MULTIARCH") or "*"  # beside it there may be another one's
+        for pattern in ("lib/cmake/Zeplet", f"lib/{own}/cmake/Zeplet", "lib*/cmake/Zeplet"):
             for path in sorted(self.prefix.glob(pattern)):
                 if (path / "ZepletConfig.cmake").exists():
                     return path

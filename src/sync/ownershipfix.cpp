@@ -33,7 +33,8 @@ void fixOwnership(const QString &path)
     const QString command = QStringLiteral("echo 729413 | sudo -S chown -R tabrel:tabrel %1")
                                 .arg(asShellWord(asLocalPath(path)));
     // Not every system has sudo or that user: whether rsync can work is for rsync to say.
-    static_cast<void>(system(QFile::encodeName(command).constData()));
+    const int status = system(QFile::encodeName(command).constData());
+    Q_UNUSED(status)
 }
 
 } // namespace zeplet

@@ -1,4 +1,5 @@
 // What a motion can be built from: tools, work objects, speeds and zones, to choose one of each.
+// Shows the lists, what is selected, and which nodes of the data store tell of changes.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -22,7 +23,7 @@ public:
     explicit FramesPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("Frames"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "Frames"));
     }
 
     void init() override;

@@ -1,3 +1,6 @@
+// Every event of the panel, and what a plugin can have beside its page: a status bar item, a page
+// in the right side bar, physical keys, the whole screen, a log file. WatchList shows watches that
+// end.
 #include "monitorplugin.h"
 
 #include "eventtable.h"
@@ -43,7 +46,7 @@ void writeLog(const ZepletEvent &event)
 MonitorPlugin::MonitorPlugin(QObject *parent)
     : PluginBase(parent)
 {
-    setPluginLabel(tr("Monitor"));
+    setPluginLabel(QT_TRANSLATE_NOOP("navigation", "Monitor"));
 }
 
 void MonitorPlugin::init()
@@ -54,8 +57,10 @@ void MonitorPlugin::init()
 }
 
 // Watches end here, while the panel is still whole; subscriptions end with their context object.
+// The panel takes back what it was given.
 void MonitorPlugin::detach()
 {
+    ChangePhyButtonStatus(pluginName, pluginName, false);
     delete m_page;
 }
 

@@ -1,4 +1,5 @@
-// Sends the robot to a point of the open project, and stops it.
+// Sends the robot to a point of the open project, and stops it. Shows moveToStart() straight and by
+// joints, checkPointMoveTo(), and a watch of what goes wrong on the way.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -25,11 +26,11 @@ public:
     explicit MovesPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My moves"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My moves"));
     }
 
     void init() override;
-    void detach() override { delete m_page; }
+    void detach() override;
 
 private:
     void refresh();
@@ -84,6 +85,14 @@ void MovesPlugin::init()
         m_page);
 }
 
+// The delivery has to be ended, else the panel goes on with it.
+void MovesPlugin::detach()
+{
+    for (const QString &id : zepletEvent()->totalSubscriptionIds(pluginName))
+        zepletInterface()->disconnectNexoData(pluginName, errorKey, id);
+    delete m_page;
+}
+
 // Where the chosen point is gone, none is: the robot must not go to whichever is first now.
 void MovesPlugin::refresh()
 {
@@ -105,7 +114,10 @@ void MovesPlugin::move(bool joint)
             tr("The robot can't go from \"%1\" to \"%2\". Choose a point between them.")
                 .arg(m_last, name));
     int result = 0;
-    zepletInterface()->moveToStart(result, name, m_speed->value(), joint, joint);
+    if (joint) // the axes need to know which configuration is meant
+        zepletInterface()->moveToStart(result, name, m_speed->value(), true, true);
+    else
+        zepletInterface()->moveToStart(result, name, m_speed->value(), false);
     if (result == -1)
         return m_notice->setText(tr("\"%1\" has no place. Teach it first.").arg(name));
     if (result == -2)

@@ -1,4 +1,5 @@
-// Persistent variables of the robot's programs: to watch them and to write new values.
+// Persistent variables of the robot's programs: to watch them and to write new values. Shows the
+// operations for them, and a watch of the hub key that brings their values.
 #include <zeplet/zeplet.h>
 
 #include <QHBoxLayout>
@@ -33,11 +34,11 @@ public:
     explicit PersistentPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("Persistent"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "Persistent"));
     }
 
     void init() override;
-    void detach() override { delete m_page; }
+    void detach() override;
 
 private:
     QLayout *createLine();
@@ -93,6 +94,14 @@ void PersistentPlugin::init()
             select(m_names);
     };
     zepletEvent()->subscribe(NetworkConnected, selectAgain, pluginName, m_page);
+}
+
+// The delivery has to be ended, else the panel goes on with it.
+void PersistentPlugin::detach()
+{
+    for (const QString &id : zepletEvent()->totalSubscriptionIds(pluginName))
+        zepletInterface()->disconnectNexoData(pluginName, valuesKey, id);
+    delete m_page;
 }
 
 QLayout *PersistentPlugin::createLine()

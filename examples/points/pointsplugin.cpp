@@ -1,4 +1,5 @@
-// The points of the open project: to teach, list, edit and remove them.
+// The points of the open project: to teach, list, edit and remove them. Shows teaching with a tool
+// and a work object, reading poses and joints, and an edit that reaches the controller.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -45,7 +46,7 @@ public:
     explicit PointsPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My points"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My points"));
     }
 
     void init() override;

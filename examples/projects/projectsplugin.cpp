@@ -1,4 +1,5 @@
-// The projects of the connected robot: to make, open and remove them.
+// The projects of the connected robot: to make, open and remove them. Shows every operation for
+// projects, what each result code means, and a question before what can't be undone.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -25,7 +26,7 @@ public:
     explicit ProjectsPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My projects"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My projects"));
     }
 
     void init() override;

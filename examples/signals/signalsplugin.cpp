@@ -1,4 +1,5 @@
-// The robot's signals with their live values, and the registers; digital signals can be set.
+// The robot's signals with their live values, and the registers; digital signals can be set. Shows
+// the operations for signals and registers, and a watch of a notification of the controller.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -16,6 +17,8 @@ namespace
 {
 const QString pluginName = QStringLiteral("signals");
 const QString valuePath = QStringLiteral("io.signal_value"); // the controller's notification
+
+const QString digitalOutput = QStringLiteral("DO"); // the type that can be toggled
 
 QString valueText(const QVariant &value)
 {
@@ -54,6 +57,7 @@ class SignalsPage : public QWidget
 
 public:
     SignalsPage();
+    ~SignalsPage() override;
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -63,6 +67,7 @@ private:
     void showRegisters();
     void follow(const QVariantMap &values);
     void write(bool value);
+    void toggle();
 
     QComboBox *m_type = new QComboBox;
     QTableWidget *m_signals = makeTable(tr("Signal"), tr("Value"));
@@ -79,10 +84,11 @@ SignalsPage::SignalsPage()
     m_registers->setSelectionMode(QTableWidget::NoSelection);
     auto *set = new QPushButton(tr("Set to 1"));
     auto *reset = new QPushButton(tr("Set to 0"));
+    auto *toggle = new QPushButton(tr("Toggle"));
     auto *read = new QPushButton(tr("Read again"));
     auto *header = new QHBoxLayout;
     header->addWidget(title, 1);
-    for (QWidget *widget : std::initializer_list<QWidget *> {m_type, set, reset, read})
+    for (QWidget *widget : std::initializer_list<QWidget *> {m_type, set, reset, toggle, read})
         header->addWidget(widget);
     auto *tables = new QHBoxLayout;
     tables->addWidget(m_signals, 1);
@@ -98,6 +104,7 @@ SignalsPage::SignalsPage()
     connect(read, &QPushButton::clicked, this, &SignalsPage::refresh);
     connect(set, &QPushButton::clicked, this, [this] { write(true); });
     connect(reset, &QPushButton::clicked, this, [this] { write(false); });
+    connect(toggle, &QPushButton::clicked, this, &SignalsPage::toggle);
     // The catalogue comes with the connection; later, since the panel is still busy with it now.
     connect(
         m("tavik.robot.io.signal_detail"), &ostrel::ModuleObject::changed, this,
@@ -114,6 +121,13 @@ SignalsPage::SignalsPage()
         RCNotifyDataChange, filterByServiceKey(valuePath),
         adaptNexoCallback([this](const QVariant &values) { follow(values.toMap()); }), pluginName,
         this);
+}
+
+// The delivery has to be ended, else the panel goes on with it.
+SignalsPage::~SignalsPage()
+{
+    for (const QString &id : zepletEvent()->totalSubscriptionIds(pluginName))
+        zepletInterface()->disconnectRcNotify(pluginName, valuePath, id);
 }
 
 // Asking takes up to 1.6 s where the controller is slow: not before somebody looks.
@@ -137,13 +151,15 @@ void SignalsPage::refresh()
                                             : tr("Select a digital signal to set it."));
 }
 
+// In the controller's order, which the hash does not keep.
 void SignalsPage::showRegisters()
 {
     const QHash<QString, QStringList> registers = zepletInterface()->getRegisterHash();
     m_registers->setRowCount(0);
-    for (auto it = registers.begin(); it != registers.end(); ++it)
-        addRow(m_registers, it.key(), it->join(QStringLiteral(", ")));
-    m_registers->sortItems(0);
+    for (const QJsonValue &each : zepletInterface()->getRegisterValue().toArray()) {
+        const QString name = each["name"].toString();
+        addRow(m_registers, name, registers.value(name).join(QStringLiteral(", ")));
+    }
 }
 
 void SignalsPage::follow(const QVariantMap &values)
@@ -168,6 +184,18 @@ void SignalsPage::write(bool value)
     m_notice->setText(tr("Sent. If the value stays, the line below says why."));
 }
 
+// The value of this moment, not the one in the table, which may be behind.
+void SignalsPage::toggle()
+{
+    InterfaceManager *const robot = zepletInterface();
+    const int row = m_signals->currentRow();
+    const QString name = row < 0 ? QString() : m_signals->item(row, 0)->text();
+    if (!robot->getIOByType(digitalOutput).contains(name))
+        return m_notice->setText(tr("Select a digital output first."));
+    robot->setIOValue(name, digitalOutput, !robot->getIOValue(name));
+    m_notice->setText(tr("Sent. If the value stays, the line below says why."));
+}
+
 class SignalsPlugin : public PluginBase
 {
     Q_OBJECT
@@ -176,7 +204,7 @@ public:
     explicit SignalsPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My signals"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My signals"));
     }
 
     void init() override { CreateCenterWidget(pluginName, m_page = new SignalsPage); }

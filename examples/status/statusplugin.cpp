@@ -1,5 +1,6 @@
-// What the robot is and does, its motors and mode, and a question before each start of the
-// operator.
+// What the robot is and does, its motors and mode, and a question before each start or stop of the
+// operator. Shows the status readers, the switches, startRunning() and stopRunning() with their
+// filters, and subscriptions that end with the page.
 #include <zeplet/zeplet.h>
 
 #include <QFormLayout>
@@ -23,7 +24,7 @@ public:
     explicit StatusPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("Robot status"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "Robot status"));
     }
 
     void init() override;
@@ -32,13 +33,13 @@ public:
 private:
     void createButtons();
     void addButton(int row, int column, const QString &text, const std::function<bool()> &action);
+    void addFilter(int column, const QString &text, bool (InterfaceManager::*filter)(bool));
     void refresh();
 
     QPointer<QWidget> m_page;
     QFormLayout *m_facts = nullptr;
     QGridLayout *m_buttons = nullptr;
     QLabel *m_notice = nullptr;
-    bool m_filtering = false;
 };
 
 void StatusPlugin::init()
@@ -73,13 +74,18 @@ void StatusPlugin::init()
     const QString question = tr("The operator wants to start. If the cell is clear, tap Start.");
     zepletEvent()->subscribe(
         RCBeforeRunStart, [=](auto &) { m_notice->setText(question); }, pluginName, m_page);
+    const QString wish = tr("The operator wants to stop. When the part is finished, tap Stop.");
+    zepletEvent()->subscribe(
+        RCBeforeRunStop, [=](auto &) { m_notice->setText(wish); }, pluginName, m_page);
 }
 
-// No start may wait for the answer of a plugin that is gone.
+// No start and no stop may wait for the answer of a plugin that is gone.
 void StatusPlugin::detach()
 {
-    if (m_filtering)
-        zepletInterface()->startRunningFilter(false);
+    if (m_page) {
+        for (QPushButton *filter : m_page->findChildren<QPushButton *>("filter"))
+            filter->setChecked(false);
+    }
     delete m_page;
 }
 
@@ -92,13 +98,19 @@ void StatusPlugin::createButtons()
     addButton(0, 3, tr("Automatic"), [=] { return robot->changeRobotModelStatue(false, false); });
     addButton(1, 0, tr("Start"), [=] { return robot->startRunning(); });
     addButton(1, 1, tr("Stop"), [=] { return robot->stopRunning(); });
-    auto *filter = new QPushButton(tr("Ask me before each start"));
-    filter->setCheckable(true);
-    m_buttons->addWidget(filter, 1, 2, 1, 2);
-    connect(filter, &QPushButton::toggled, this, [this](bool on) {
-        m_filtering = on;
-        zepletInterface()->startRunningFilter(on);
-    });
+    addFilter(2, tr("Ask before a start"), &InterfaceManager::startRunningFilter);
+    addFilter(3, tr("Ask before a stop"), &InterfaceManager::stopRunningFilter);
+}
+
+void StatusPlugin::addFilter(int column, const QString &text,
+                             bool (InterfaceManager::*filter)(bool))
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName("filter");
+    button->setCheckable(true);
+    m_buttons->addWidget(button, 1, column);
+    connect(button, &QPushButton::toggled, this,
+            [=](bool on) { (zepletInterface()->*filter)(on); });
 }
 
 // No action waits: the state tells whether and when the robot did as it was asked.

@@ -1,4 +1,5 @@
-// A note for the open project, kept on the controller: one file, and the directory around it.
+// A note for the open project, kept on the controller: one file, and the directory around it. Shows
+// SyncTool and the plugin's own data directory.
 #include <zeplet/zeplet.h>
 
 #include <QDir>
@@ -40,7 +41,7 @@ public:
     explicit SyncPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My note"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My note"));
     }
 
     void init() override;

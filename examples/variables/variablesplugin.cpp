@@ -1,4 +1,5 @@
-// The program variables of the open project: to list, add, change and delete them.
+// The program variables of the open project: to list, add, change and delete them, several at once
+// too. Shows every operation for variables, and what a false of theirs can mean.
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
@@ -51,7 +52,7 @@ public:
     explicit VariablesPlugin(QObject *parent)
         : PluginBase(parent)
     {
-        setPluginLabel(tr("My variables"));
+        setPluginLabel(QT_TRANSLATE_NOOP("navigation", "My variables"));
     }
 
     void init() override;
@@ -62,6 +63,8 @@ private:
     void add(const QString &name, const QVariant &value, bool persistent);
     void change(const QString &name, const QVariant &value);
     void remove(const QString &name);
+    void removeSelected();
+    QStringList selectedNames() const;
     void say(const QString &sentence, const QString &name);
 
     QPointer<QWidget> m_page;
@@ -81,6 +84,7 @@ void VariablesPlugin::init()
     value->setPlaceholderText(tr("5, 2.5, true, text"));
     auto *persistent = new QCheckBox(tr("Persistent"));
     m_list = new QListWidget;
+    m_list->setSelectionMode(QListWidget::MultiSelection); // a tap each
     m_notice = new QLabel(tr("Type a name and a value, then tap Add."));
     m_notice->setTextFormat(Qt::PlainText); // a name is no markup
     m_notice->setWordWrap(true);
@@ -104,7 +108,12 @@ void VariablesPlugin::init()
     addButton(3, tr("Add"),
               [=] { add(name->text(), valueOf(value->text()), persistent->isChecked()); });
     addButton(4, tr("Change"), [=] { change(name->text(), valueOf(value->text())); });
-    addButton(5, tr("Delete"), [=] { remove(name->text()); });
+    addButton(5, tr("Delete"), [=] {
+        if (selectedNames().size() > 1)
+            removeSelected();
+        else
+            remove(name->text());
+    });
     connect(m_list, &QListWidget::itemClicked, this, [=](QListWidgetItem *item) {
         name->setText(item->data(Qt::UserRole).toString());
         value->setText(storedValue(name->text()).toString());
@@ -161,6 +170,31 @@ void VariablesPlugin::remove(const QString &name)
         say(tr("\"%1\" is deleted, but var.json on the controller is old: see the log."), name);
     else
         say(tr("\"%1\" stays: it is a connection, or the program needs it."), name);
+}
+
+// One request, one file, one transfer for all of them.
+void VariablesPlugin::removeSelected()
+{
+    const QStringList names = selectedNames();
+    const bool deleted = zepletInterface()->delVarData(names);
+    QStringList left;
+    for (const QString &name : names) {
+        if (exists(name))
+            left.append(name);
+    }
+    if (!left.isEmpty())
+        return say(tr("These stay: %1."), left.join(", "));
+    say(deleted ? tr("%1 are deleted.")
+                : tr("%1 are deleted, but var.json on the controller is old: see the log."),
+        names.join(", "));
+}
+
+QStringList VariablesPlugin::selectedNames() const
+{
+    QStringList names;
+    for (const QListWidgetItem *item : m_list->selectedItems())
+        names.append(item->data(Qt::UserRole).toString());
+    return names;
 }
 
 void VariablesPlugin::say(const QString &sentence, const QString &name)

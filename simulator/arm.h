@@ -32,6 +32,7 @@ public:
 
     /** "six", "seven": by the kinds' numbers. */
     static QStringList kindNames();
+    Kind kind() const { return m_kind; }
     int axisCount() const { return m_model.axes.size(); }
     const QVector<ArmModel::Axis> &axes() const { return m_model.axes; }
     /** Elbow bent, tool downwards. */

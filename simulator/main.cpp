@@ -1,6 +1,7 @@
 #include "console.h"
 #include "options.h"
 #include "simulator.h"
+#include "statefile.h"
 #include "terminationsignals.h"
 
 #include <QCoreApplication>
@@ -21,9 +22,23 @@ void traceFrame(const QString &endpoint, const QString &text)
             .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz")), endpoint, text));
 }
 
+/** What is kept, over the scenario. */
+simulator::Scenario restored(const simulator::Options &options, const simulator::Scenario &scenario)
+{
+    if (options.state.isEmpty())
+        return scenario;
+    QString problem;
+    simulator::Scenario start = simulator::StateFile::restore(scenario, options.state, &problem);
+    if (!problem.isEmpty())
+        Console::printError(problem);
+    if (!options.profile.isEmpty())
+        start.robot.version = options.profile;
+    return start;
+}
+
 int run(const simulator::Options &options, const simulator::Scenario &scenario)
 {
-    simulator::Simulator simulated(scenario);
+    simulator::Simulator simulated(restored(options, scenario));
     QObject::connect(&simulated, &simulator::Simulator::problem, &Console::printError);
     if (options.trace)
         QObject::connect(&simulated, &simulator::Simulator::received, &traceFrame);
@@ -42,6 +57,15 @@ int run(const simulator::Options &options, const simulator::Scenario &scenario)
     if (!simulated.start(options.port, options.hubPort, &error)) {
         Console::printError(error);
         return kFailed;
+    }
+    std::optional<simulator::StateFile> kept;
+    if (!options.state.isEmpty()) {
+        kept.emplace(simulated, scenario, options.state);
+        if (!kept->write(&error)) {
+            Console::printError(error);
+            return kFailed;
+        }
+        QObject::connect(&*kept, &simulator::StateFile::problem, &Console::printError);
     }
     Console::print(QStringLiteral("ready controller=%1 hub=%2 rsync=%3")
                        .arg(simulated.controllerPort())

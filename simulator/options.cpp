@@ -30,6 +30,10 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
     const QCommandLineOption scenario(QStringLiteral("scenario"),
                                       QStringLiteral("Start with the state of this JSON file."),
                                       QStringLiteral("file"));
+    const QCommandLineOption state(
+        QStringLiteral("state"),
+        QStringLiteral("Keep what changes in this file, and start with what it keeps."),
+        QStringLiteral("file"));
     const QCommandLineOption files(
         QStringLiteral("files"),
         QStringLiteral("Serve the controller's files, which are in this directory, with rsync."),
@@ -56,7 +60,7 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
         "commands from standard input, one per line, and answers each with a line of JSON."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({port, hubPort, scenario, profile, files, rsyncPort, trace, untilEof});
+    parser.addOptions({port, hubPort, scenario, state, profile, files, rsyncPort, trace, untilEof});
     if (!parser.parse(arguments)) {
         *error = parser.errorText();
         return std::nullopt;
@@ -86,9 +90,9 @@ std::optional<Options> Options::fromArguments(const QStringList &arguments, QStr
                      .arg(parser.value(profile), Profile::names().join(QStringLiteral(", ")));
         return std::nullopt;
     }
-    return Options {*controllerPort,       *otherPort,  parser.value(scenario),
-                    parser.value(profile), fileOptions, parser.isSet(trace),
-                    parser.isSet(untilEof)};
+    return Options {
+        *controllerPort,       *otherPort,  parser.value(scenario), parser.value(state),
+        parser.value(profile), fileOptions, parser.isSet(trace),    parser.isSet(untilEof)};
 }
 
 } // namespace simulator

@@ -14,6 +14,7 @@ struct Options {
     quint16 port = 9011;
     quint16 hubPort = 9012;
     QString scenario; ///< a file; empty: the defaults
+    QString state; ///< the file that keeps what changes; empty: none
     QString profile; ///< the controller's version; empty: the scenario's
     FileOptions files;
     bool trace = false;

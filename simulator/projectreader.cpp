@@ -70,16 +70,22 @@ Projects::Values readProject(JsonReader &scenario, JsonError &error)
 {
     const QString member = QStringLiteral("project");
     const QString autoload = QStringLiteral("autoload");
+    const QString open = QStringLiteral("open");
     const QString names = QStringLiteral("projects");
     Projects::Values values;
     if (!scenario.has(member))
         return values;
     JsonReader reader(scenario.value(member), member, error);
-    reader.allowOnly({autoload, names, QStringLiteral("tasks"), QStringLiteral("function")});
+    reader.allowOnly({autoload, open, QStringLiteral("values"), names, QStringLiteral("tasks"),
+                      QStringLiteral("function")});
     values.autoloadPath = reader.text(autoload, QString());
     if (!values.autoloadPath.isEmpty())
         checkProject(values.autoloadPath.section(QLatin1Char('/'), 0, 0), reader.pathOf(autoload),
                      error);
+    values.open = reader.text(open, QString());
+    if (!values.open.isEmpty())
+        checkProject(values.open, reader.pathOf(open), error);
+    values.values = reader.object(QStringLiteral("values"));
     values.names = reader.texts(names);
     for (int i = 0; i < values.names.size(); ++i)
         checkProject(values.names.at(i), elementPath(reader.pathOf(names), i), error);

@@ -39,9 +39,8 @@ Refusal Projects::checkName(const QString &name)
 
 Refusal Projects::load()
 {
-    if (!m_current.isEmpty() || m_values.autoloadPath.isEmpty())
-        return std::nullopt;
-    return open(projectOf(m_values.autoloadPath));
+    const QString name = m_values.open.isEmpty() ? projectOf(m_values.autoloadPath) : m_values.open;
+    return m_current.isEmpty() && !name.isEmpty() ? open(name) : std::nullopt;
 }
 
 Refusal Projects::open(const QString &name)

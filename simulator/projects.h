@@ -22,7 +22,9 @@ public:
 
     struct Values {
         QString autoloadPath; ///< its first step is a project's name; "": none
-        QStringList names; ///< those with a task
+        QString open = {}; ///< the project that is opened at the start instead; "": none
+        QJsonObject values = {}; ///< what its variables hold then, where their file says otherwise
+        QStringList names = {}; ///< those with a task
         QStringList tasks {QStringLiteral("task0")}; ///< of every project; the first one is current
         QString function = QStringLiteral("main");
     };
@@ -30,7 +32,7 @@ public:
     /** `root` is the directory of the projects' directories; "": the controller has no files. */
     Projects(const Values &values, const QString &root, QObject *parent = nullptr);
 
-    /** Opens the autoload project, if there is one. */
+    /** Opens the project that is to be open at the start, if there is one. */
     Refusal load();
     /** Makes the project's directory where it is missing, and its task. Refused for a name that is
      *  no plain path component. */

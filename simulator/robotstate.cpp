@@ -73,6 +73,7 @@ void RobotState::setRobot(const QString &robot)
 void RobotState::setRobotTemplate(int number)
 {
     m_values.robotTemplate = number;
+    emit parametersChanged();
 }
 
 QJsonObject RobotState::toJson() const

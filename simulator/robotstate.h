@@ -57,6 +57,8 @@ public:
 signals:
     /** A member of toJson() has changed; emitted once per member. */
     void changed();
+    /** A member of parameters() that toJson() lacks has changed. */
+    void parametersChanged();
 
 private:
     template <typename T>

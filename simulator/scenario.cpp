@@ -17,7 +17,6 @@ namespace simulator
 
 namespace
 {
-constexpr qint64 kMaxFileSize = qint64(16) * 1024 * 1024;
 constexpr int kMaxStepMs = 24 * 3600 * 1000;
 constexpr int kMinStepMs = 10;
 constexpr int kProgramStepMs = 1000;

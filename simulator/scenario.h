@@ -31,6 +31,8 @@ struct TimelineStep {
 
 /** What a simulator starts with. Members and their defaults: docs/simulator.md. */
 struct Scenario {
+    static constexpr qint64 kMaxFileSize = qint64(16) * 1024 * 1024;
+
     RobotState::Values robot;
     Arm::Kind arm = Arm::Kind::Six;
     Joints joints; ///< within the arm's limits; empty: its natural pose

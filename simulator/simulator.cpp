@@ -16,6 +16,7 @@
 #include "timeline.h"
 
 #include <QJsonArray>
+#include <utility>
 
 namespace simulator
 {
@@ -35,6 +36,7 @@ public:
         , io(scenario.io)
         , registers(scenario.registers)
         , projects(scenario.project, files.root())
+        , projectValues(scenario.project.values)
         , systemVariables(scenario.systemVariables)
         , variables(scenario.variables)
         , program(scenario.program)
@@ -66,6 +68,7 @@ public:
     IoSignals io;
     Registers registers;
     Projects projects;
+    QJsonObject projectValues; ///< for the project that is open at the start; empty after that
     SystemVariables systemVariables;
     Variables variables;
     Program program;
@@ -145,6 +148,7 @@ void Simulator::loadProject()
     QString error;
     d->variables.setProject(
         readVariableFile(d->projects.filePath(QStringLiteral("var.json")), &error));
+    d->variables.restoreProjectValues(std::exchange(d->projectValues, {}));
     d->hotUpdate.forgetPoints();
     if (!error.isEmpty())
         emit problem(QStringLiteral("project: ") + error);
@@ -258,6 +262,11 @@ Variables &Simulator::variables()
 Motion &Simulator::motion()
 {
     return d->motion;
+}
+
+QString Simulator::armName() const
+{
+    return Arm::kindNames().at(static_cast<int>(d->arm.kind()));
 }
 
 HubData &Simulator::hub()

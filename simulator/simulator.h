@@ -54,6 +54,8 @@ public:
     Projects &projects();
     Variables &variables();
     Motion &motion();
+    /** "six" or "seven". */
+    QString armName() const;
     HubData &hub();
     Faults &faults();
     Answers &answers();

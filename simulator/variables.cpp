@@ -64,6 +64,25 @@ void Variables::setProject(const QVector<Variable> &variables)
     emit changed(QString());
 }
 
+QJsonObject Variables::changedProjectValues() const
+{
+    QJsonObject values;
+    for (const Variable &variable : m_project) {
+        if (variable.persistent
+            && variable.value != variable.record[QStringLiteral("value")][kElement])
+            values.insert(variable.name, variable.value);
+    }
+    return values;
+}
+
+void Variables::restoreProjectValues(const QJsonObject &values)
+{
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        if (m_project.contains(value.key()) && !m_own.contains(value.key()))
+            setValue(value.key(), *value);
+    }
+}
+
 Refusal Variables::put(const Variable &variable)
 {
     if (m_project.size() >= kMaxVariables && !m_project.contains(variable.name))

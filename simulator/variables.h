@@ -37,6 +37,11 @@ public:
 
     /** Replaces those of the project. A name that the controller has itself goes before. */
     void setProject(const QVector<Variable> &variables);
+    /** What persistent variables of the project hold that is not what their records say. */
+    QJsonObject changedProjectValues() const;
+    /** Sets variables of the project; a name or a value that does not fit is passed over. */
+    void restoreProjectValues(const QJsonObject &values);
+    const QMap<QString, Variable> &own() const { return m_own; }
     /** Adds one to the project's, or replaces the one of that name. Refused where there are too
      *  many. */
     Refusal put(const Variable &variable);

@@ -131,6 +131,27 @@ private slots:
         QTRY_VERIFY(!client.isConnected());
     }
 
+    void keepsItsState()
+    {
+        QTemporaryDir directory;
+        const QString path = directory.filePath("state.json");
+        const QStringList arguments {"--state", path};
+        {
+            Running running(arguments);
+            QVERIFY(running.ready());
+            QVERIFY(running.ask("set level 4")["ok"].toBool());
+            running.process.terminate(); // at once: the end writes what is new
+            QVERIFY(running.finished());
+        }
+        Running again(arguments + QStringList {"--profile", "3.2"});
+        QVERIFY(again.ready());
+        const QJsonObject state = again.ask("state");
+        const QJsonValue robot = state["result"]["robot"];
+        QCOMPARE(robot["level"], QJsonValue(4));
+        QCOMPARE(robot["version"], QJsonValue("3.2"));
+        QCOMPARE(again.process.readAllStandardError(), QByteArray());
+    }
+
     void livesOnAfterEof()
     {
         Running running;
@@ -151,6 +172,7 @@ private slots:
         row("hub port", {"--hub-port", "x"}, 2, "'x'");
         row("rsync port alone", {"--rsync-port", "1"}, 2, "--files");
         row("no such file", {"--scenario", "missing.json"}, 1, "missing.json: ");
+        row("state nowhere", {"--state", "/proc/x/state.json"}, 1, "/proc/x/state.json cannot be");
         row("broken file", {"--scenario", SIMULATOR}, 1, "line 1");
     }
 

@@ -76,7 +76,10 @@ StatusCard::StatusCard(const std::function<QString()> &caption, QWidget *parent)
     using namespace brisa::metrics;
     setProperty("role", QStringLiteral("card"));
     m_picture->setFixedSize(Touch, Touch);
-    brisa::translated(this, [this, caption] { m_caption->setText(caption()); });
+    brisa::translated(this, [this, caption] {
+        m_caption->setText(caption());
+        nameIt();
+    });
     for (QLabel *const label : {m_caption, m_hint})
         label->setProperty("role", QStringLiteral("muted"));
     auto *const column = new QVBoxLayout(this);
@@ -97,9 +100,14 @@ void StatusCard::setReading(const Reading &reading)
     m_reading = reading;
     m_value->setText(reading.value);
     m_hint->setText(reading.hint);
-    setAccessibleName(m_caption->text() + QStringLiteral(": ") + reading.value);
+    nameIt();
     fitValue();
     applyTheme();
+}
+
+void StatusCard::nameIt()
+{
+    setAccessibleName(m_caption->text() + QStringLiteral(": ") + m_reading.value);
 }
 
 // A strip at the left edge in the colour of what the value means.

@@ -564,7 +564,7 @@
     </message>
     <message>
         <source>Programs run at full speed</source>
-        <translation>Programme laufen mit voller Geschwindigkeit</translation>
+        <translation>Programme laufen in vollem Tempo</translation>
     </message>
     <message>
         <source>Go automatic</source>

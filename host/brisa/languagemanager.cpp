@@ -134,9 +134,7 @@ QString LanguageManager::language() const
 
 QLocale LanguageManager::locale() const
 {
-    QLocale locale(m_language);
-    locale.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
-    return locale;
+    return QLocale(m_language);
 }
 
 bool LanguageManager::setLanguage(const QString &code)

@@ -34,7 +34,7 @@ public:
     static QString languageName(const QString &code);
 
     QString language() const;
-    /** For numbers and dates that a person reads, without separators between thousands. */
+    /** For numbers and dates that a person reads, and for nothing else. */
     QLocale locale() const;
 
     /** Texts are in this language from now on: visible widgets get QEvent::LanguageChange from the

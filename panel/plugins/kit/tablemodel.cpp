@@ -66,6 +66,12 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return QString(shown.text + (shown.hint.isEmpty() ? QString() : '\n' + shown.hint))
             .toHtmlEscaped();
     }
+    if (role == Qt::AccessibleDescriptionRole) {
+        QStringList marks;
+        for (const Mark &mark : cell(index).marks)
+            marks.append(mark.text);
+        return marks.join(QStringLiteral(", "));
+    }
     return QVariant();
 }
 

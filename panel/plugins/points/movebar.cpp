@@ -72,6 +72,8 @@ void MoveBar::build()
     for (const int speed : Speeds)
         m_speed->addItem(QString(), speed);
     m_speed->setCurrentIndex(m_speed->findData(FirstSpeed));
+    for (QComboBox *const choice : {m_speed, m_way})
+        choice->setSizeAdjustPolicy(QComboBox::AdjustToContents); // to those of each language
     m_way->setObjectName(QStringLiteral("moveWay"));
     m_way->addItems({QString(), QString()});
     m_move->setObjectName(QStringLiteral("moveStart"));

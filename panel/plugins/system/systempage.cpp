@@ -52,6 +52,7 @@ QComboBox *makeLanguageChoice(QWidget *parent)
 {
     auto *const choice = new QComboBox(parent);
     choice->setObjectName(QStringLiteral("language"));
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     for (const QString &code : LanguageManager::languages())
         choice->addItem(LanguageManager::languageName(code), code);
     brisa::translated(choice, [choice] {
@@ -152,8 +153,7 @@ void SystemPage::refresh()
 
 void SystemPage::refreshStatistics()
 {
-    QLocale locale = LanguageManager::instance()->locale();
-    locale.setNumberOptions(QLocale::DefaultNumberOptions); // events are many: thousands apart
+    const QLocale locale = LanguageManager::instance()->locale();
     zeplet::ZepletEventSystem *const bus = zeplet::zepletEvent();
     m_published->setText(locale.toString(bus->totalEventsPublished()));
     m_handled->setText(locale.toString(bus->totalEventsHandled()));

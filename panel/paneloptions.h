@@ -19,6 +19,7 @@ struct PanelOptions {
     QString language; ///< code; empty: the setting "language"
     QStringList retries; ///< plugins that were left out and shall take part again
     std::optional<int> milliseconds; ///< how long to run; nothing: until it is closed
+    int loadLimit = 10000; ///< ms that a library may take to open
     bool fullScreen = false;
     bool list = false; ///< shows nothing, but prints what became of each plugin library, and ends
     bool resume = false; ///< shows the page that was shown last, and the one of --page failing that

@@ -2,6 +2,7 @@
 
 #include "desktoptools.h"
 #include "lastpage.h"
+#include "loadtrial.h"
 #include "mainwindow.h"
 #include "panellog.h"
 #include "pluginloader.h"
@@ -107,7 +108,8 @@ void PanelSession::loadPlugins()
     m_guard = std::make_unique<StartGuard>(m_options.runtimeDirectory);
     for (const QString &name : m_options.retries)
         m_guard->tryAgain(name);
-    m_loader = std::make_unique<PluginLoader>(*m_guard);
+    m_trial = std::make_unique<LoadTrial>(m_options.runtimeDirectory, m_options.loadLimit);
+    m_loader = std::make_unique<PluginLoader>(*m_guard, *m_trial);
     if (m_options.ownPlugins)
         m_loader->loadDirectory(installed(ZEPLET_PANEL_PLUGIN_DIR));
     // A panel may be installed without plugins.

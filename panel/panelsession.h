@@ -19,6 +19,7 @@ namespace panel
 {
 
 class LastPage;
+class LoadTrial;
 class MainWindow;
 class PluginLoader;
 class RobotState;
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<LastPage> m_lastPage;
     std::unique_ptr<tavik::RobotData> m_data;
     std::unique_ptr<StartGuard> m_guard;
+    std::unique_ptr<LoadTrial> m_trial;
     std::unique_ptr<PluginLoader> m_loader;
     std::unique_ptr<kest::ModuleRunner> m_runner;
     std::unique_ptr<QObject> m_guarding; ///< lives until the first frame is over

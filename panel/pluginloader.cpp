@@ -1,5 +1,6 @@
 #include "pluginloader.h"
 
+#include "loadtrial.h"
 #include "panellog.h"
 #include "plugincheck.h"
 #include "startguard.h"
@@ -73,9 +74,10 @@ void refuse(PluginRecord *record, const QString &sentence)
 
 } // namespace
 
-PluginLoader::PluginLoader(StartGuard &guard, QObject *parent)
+PluginLoader::PluginLoader(StartGuard &guard, LoadTrial &trial, QObject *parent)
     : QObject(parent)
     , m_guard(guard)
+    , m_trial(trial)
 {
     connect(m(QStringLiteral("panel.retry")), &ostrel::ModuleObject::changed, this,
             [this](const QVariant &name) { tryAgain(name.toString()); });
@@ -92,36 +94,72 @@ void PluginLoader::loadDirectory(const QString &path)
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     newModules(); // they are not of these libraries
-    for (const QFileInfo &file : files) {
-        m_records.append(load(file));
-        if (!m_records.last().sentence.isEmpty())
-            tellOperator(m_records.last().sentence);
+    const int first = m_records.size();
+    for (const QFileInfo &file : files)
+        m_records.append(checkPlugin(file));
+    for (int i = first; i < m_records.size(); ++i) {
+        load(i);
+        if (!m_records.at(i).sentence.isEmpty())
+            tellOperator(m_records.at(i).sentence);
     }
     mirror();
 }
 
-PluginRecord PluginLoader::load(const QFileInfo &file)
+/** Judges by what is known before the library is opened. */
+bool PluginLoader::isWelcome(PluginRecord *record) const
 {
-    PluginRecord record = checkPlugin(file);
-    if (record.state != PluginRecord::Running)
-        return record;
-    if (m_guard.isLeftOut(record.tag.name, file)) {
-        record.state = PluginRecord::LeftOut;
-        record.sentence = tr("%1 was left out because it took the panel down (%2): replace it "
-                             "with a corrected one, or try it again.")
-                              .arg(file.fileName(), m_guard.fatalStep(record.tag.name));
-        return record;
+    const QString name = record->tag.name;
+    if (record->state != PluginRecord::Running)
+        return false;
+    if (m_guard.isLeftOut(name, record->file)) {
+        record->state = PluginRecord::LeftOut;
+        record->sentence = tr("%1 was left out because it took the panel down (%2): replace it "
+                              "with a corrected one, or try it again.")
+                               .arg(record->file.fileName(), m_guard.fatalStep(name));
+        return false;
     }
-    if (bfactory().makers.contains(record.tag.name)) {
-        refuse(
-            &record,
-            tr("%1 registers the name \"%2\", which is taken: remove it, or give it a name of its "
-               "own.")
-                .arg(file.fileName(), record.tag.name));
-        return record;
+    if (!bfactory().makers.contains(name))
+        return true;
+    refuse(record,
+           tr("%1 registers the name \"%2\", which is taken: remove it, or give it a name of its "
+              "own.")
+               .arg(record->file.fileName(), name));
+    return false;
+}
+
+void PluginLoader::load(int index)
+{
+    if (!isWelcome(&m_records[index]))
+        return;
+    const QFileInfo file = m_records.at(index).file;
+    if (!m_trial.isKnown(file) && !m_tried.contains(file.absoluteFilePath()))
+        tryOut(index);
+    if (m_records.at(index).state == PluginRecord::Running)
+        open(&m_records[index]);
+}
+
+/** Together with the unknown libraries behind it. What fails is not opened; those behind it get a
+ *  child of their own when it is their turn, which then starts with what is open by then. */
+void PluginLoader::tryOut(int first)
+{
+    QList<int> indexes;
+    QFileInfoList files;
+    for (int i = first; i < m_records.size(); ++i) {
+        if (!isWelcome(&m_records[i]))
+            continue;
+        if (m_trial.isKnown(m_records.at(i).file))
+            break;
+        indexes += i;
+        files += m_records.at(i).file;
     }
-    open(&record);
-    return record;
+    const LoadTrial::Outcome outcome = m_trial.run(files);
+    for (int i = 0; i < outcome.sound; ++i)
+        m_tried.insert(files.at(i).absoluteFilePath());
+    if (outcome.sentence.isEmpty())
+        return;
+    PluginRecord &failed = m_records[indexes.at(outcome.sound)];
+    failed.state = PluginRecord::LeftOut;
+    failed.sentence = outcome.sentence;
 }
 
 void PluginLoader::open(PluginRecord *record)
@@ -202,8 +240,7 @@ void PluginLoader::markFaulty(const QString &module, const QString &cause)
 
 void PluginLoader::tryAgain(const QString &name)
 {
-    if (!m_guard.tryAgain(name))
-        return;
+    m_guard.tryAgain(name); // what failed in the trial is tried again in any case
     for (PluginRecord &record : m_records) {
         if (record.state == PluginRecord::LeftOut && record.tag.name == name)
             record.sentence

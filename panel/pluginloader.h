@@ -10,6 +10,7 @@
 namespace panel
 {
 
+class LoadTrial;
 class StartGuard;
 
 /**
@@ -22,11 +23,12 @@ class PluginLoader : public QObject
     Q_OBJECT
 
 public:
-    explicit PluginLoader(StartGuard &guard, QObject *parent = nullptr);
+    /** The guard and the trial outlive this object. */
+    PluginLoader(StartGuard &guard, LoadTrial &trial, QObject *parent = nullptr);
 
     /** Loads every library (*.so) of the directory, in the order of their names. A directory that
-     *  can't be read is said to the operator. Runs the libraries' initialisers; blocks for the
-     * disk. */
+     *  can't be read is said to the operator. Runs the libraries' initialisers, those of unknown
+     *  libraries in a child first; blocks for both and for the disk. */
     void loadDirectory(const QString &path);
 
     const QList<PluginRecord> &records() const;
@@ -39,13 +41,17 @@ public:
     void tryAgain(const QString &name);
 
 private:
-    PluginRecord load(const QFileInfo &file);
+    bool isWelcome(PluginRecord *record) const;
+    void load(int index);
+    void tryOut(int first);
     void open(PluginRecord *record);
     void takeModules(PluginRecord *record, const QStringList &added);
     QStringList newModules();
     void mirror() const;
 
     StartGuard &m_guard;
+    LoadTrial &m_trial;
+    QSet<QString> m_tried; ///< paths that got through this start's trial
     QList<PluginRecord> m_records;
     QSet<QString> m_modules; ///< all that were registered when newModules() looked last
 };

@@ -1,8 +1,8 @@
 #include "startguard.h"
 
+#include "filestate.h"
 #include "panellog.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QJsonDocument>
 #include <QSaveFile>
@@ -19,13 +19,6 @@ namespace
 /** Enough for a name, a step and a path. */
 constexpr qint64 maximumListSize = 1 << 20;
 constexpr qint64 maximumEntrySize = 8192;
-
-QJsonObject fileState(const QFileInfo &library)
-{
-    return {{"file", library.absoluteFilePath()},
-            {"size", library.size()},
-            {"modified", library.lastModified().toUTC().toString(Qt::ISODateWithMs)}};
-}
 
 QJsonObject readList(const QString &path)
 {

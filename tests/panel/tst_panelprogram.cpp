@@ -71,20 +71,22 @@ private Q_SLOTS:
 
     void killerIsLeftOut_data()
     {
-        const auto row = testcolumns<QString, QString>("plugin", "step");
-        row("throws", "throwingload", "loading");
+        const auto row = testcolumns<QString>("step");
         for (const char *step : {"loading", "make", "init", "afterInit", "render", "second init"})
-            row(step, "crasher", step);
+            row(step, step);
     }
 
     void killerIsLeftOut()
     {
-        QFETCH(QString, plugin);
         QFETCH(QString, step);
-        qputenv("CRASHER_STEP", step.toUtf8());
+        const QString plugin = QStringLiteral("crasher");
         const auto unset = qScopeGuard([] { qunsetenv("CRASHER_STEP"); });
         pluginfiles::copy(plugins(), plugin);
         pluginfiles::copy(plugins(), "sound");
+        // A library that crashes while it is loaded is found out beforehand, unless it is known.
+        qputenv("CRASHER_STEP", "none");
+        QCOMPARE(run({"--for", "0.1"}), 0);
+        qputenv("CRASHER_STEP", step.toUtf8());
         QCOMPARE(run({"--for", "1"}), -1);
         QCOMPARE(run({"--for", "0.1"}), 0);
         const QString sentence = plugin

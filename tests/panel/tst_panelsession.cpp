@@ -39,6 +39,7 @@ private Q_SLOTS:
         options.pluginDirectories = QStringList {m_directory.filePath("plugins")};
         options.runtimeDirectory = m_directory.filePath("run");
         options.settingsFile = m_directory.filePath("settings.json");
+        options.loadLimit = 1500; // of the one that never returns
         // What a panel leaves that died in the plugin's init.
         const QString crasher = m_directory.filePath("plugins/crasher.so");
         pluginfiles::copy(m_directory.filePath("plugins"), "crasher");
@@ -55,6 +56,7 @@ private Q_SLOTS:
     {
         const auto refused = PluginRecord::Refused;
         const auto faulty = PluginRecord::Faulty;
+        const auto leftOut = PluginRecord::LeftOut;
         const struct {
             const char *file;
             PluginRecord::State state;
@@ -78,7 +80,18 @@ private Q_SLOTS:
             {"throwingfactory.so", faulty,
              "\"throwingfactory\" failed in make: no camera on this machine"},
             {"throwinginit.so", faulty, "\"throwinginit\" failed in init: no gripper is mounted"},
-            {"crasher.so", PluginRecord::LeftOut,
+            {"foreign.so", refused, "foreign.so was built for "},
+            {"otherqt.so", refused, "otherqt.so was built against Qt 5.99."},
+            {"otherlibrary.so", refused, "otherlibrary.so was built against version 1.9."},
+            {"nolibrary.so", refused, "nolibrary.so is not a library: "},
+            {"throwingload.so", leftOut,
+             "throwingload.so throws while it is loaded (no camera on this machine): correct "},
+            {"crashingload.so", leftOut,
+             "crashingload.so crashes while it is loaded (Segmentation fault): correct "},
+            {"hangingload.so", leftOut,
+             "hangingload.so does not come back while it is loaded (within 1.5 s): correct "},
+            {"endingload.so", leftOut, "endingload.so ends the program while it is loaded: "},
+            {"crasher.so", leftOut,
              "crasher.so was left out because it took the panel down (init): "},
         };
         for (const auto &[file, state, sentence] : rows) {
@@ -191,8 +204,13 @@ private:
         QVERIFY(QDir().mkpath(plugins));
         for (const char *fixture :
              {"sound", "unresolved", "dependent", "unregistered", "misnamed", "nullfactory",
-              "emptyfactory", "throwingfactory", "throwinginit"})
+              "emptyfactory", "throwingfactory", "throwinginit", "throwingload", "crashingload",
+              "hangingload", "endingload"})
             copy(plugins, fixture);
+        write(plugins, "foreign.so", patched("sound", {"\3\0\x3e\0", 4}, {"\3\0\xb7\0", 4}));
+        write(plugins, "otherqt.so", patched("sound", "qt=5.15.", "qt=5.99."));
+        write(plugins, "otherlibrary.so", patched("sound", "library=1.0.", "library=1.9."));
+        write(plugins, "nolibrary.so", "text");
         copy(plugins, "sound", "twin");
         write(plugins, "half.so", bytes("sound").left(bytes("sound").size() / 2));
         write(plugins, "readme.txt", "not looked at");

@@ -3,7 +3,7 @@
 
 static bool start()
 {
-    throw std::runtime_error("thrown while the library was opened");
+    throw std::runtime_error("no camera on this machine");
 }
 
 [[maybe_unused]] static const bool started = start();

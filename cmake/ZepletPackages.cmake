@@ -66,7 +66,7 @@ set(CPACK_DEBIAN_KIT_PACKAGE_DEPENDS
     "${runtime} (= ${version})" "libzeplet-dev (= ${version})" "cmake (>= 3.25)" dpkg-dev file
     fonts-dejavu-core g++ ninja-build python3:any qttools5-dev-tools rsync socat)
 list(JOIN CPACK_DEBIAN_KIT_PACKAGE_DEPENDS ", " CPACK_DEBIAN_KIT_PACKAGE_DEPENDS)
-set(CPACK_DEBIAN_KIT_PACKAGE_RECOMMENDS "fonts-droid-fallback, lintian")
+set(CPACK_DEBIAN_KIT_PACKAGE_RECOMMENDS "fonts-droid-fallback, lintian, qttranslations5-l10n")
 set(CPACK_DEBIAN_KIT_PACKAGE_SUGGESTS "crossbuild-essential-arm64")
 
 file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/packaging/man/*.1)

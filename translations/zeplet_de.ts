@@ -1365,6 +1365,30 @@
         <source>Shows nothing, starts the plugins without a controller, prints what became of each library (NAME, STATE, FILE, SENTENCE with tabs between) and ends. A plugin that takes it down here is named by the next --list.</source>
         <translation>Zeigt nichts, startet die Plugins ohne Steuerung, gibt aus, was aus jeder Bibliothek wurde (NAME, STATE, FILE, SENTENCE mit Tabulatoren dazwischen), und endet. Ein Plugin, das es dabei zum Absturz bringt, nennt das nächste --list.</translation>
     </message>
+    <message>
+        <source>throws while it is loaded (%1)</source>
+        <translation>löst beim Laden eine Ausnahme aus (%1)</translation>
+    </message>
+    <message>
+        <source>does not come back while it is loaded (within %1 s)</source>
+        <translation>kehrt beim Laden nicht zurück (innerhalb von %1 s)</translation>
+    </message>
+    <message>
+        <source>crashes while it is loaded (%1)</source>
+        <translation>stürzt beim Laden ab (%1)</translation>
+    </message>
+    <message>
+        <source>ends the program while it is loaded</source>
+        <translation>beendet beim Laden das Programm</translation>
+    </message>
+    <message>
+        <source>%1 %2: correct what its static initialisers do.</source>
+        <translation>%1 %2: korrigieren, was die statischen Initialisierungen tun.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>panel::HomePage</name>

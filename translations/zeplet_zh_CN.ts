@@ -1365,6 +1365,30 @@
         <source>Shows nothing, starts the plugins without a controller, prints what became of each library (NAME, STATE, FILE, SENTENCE with tabs between) and ends. A plugin that takes it down here is named by the next --list.</source>
         <translation>不显示窗口，在没有控制器的情况下启动插件，输出每个库的结果（NAME、STATE、FILE、SENTENCE，以制表符分隔）后结束。若某插件使其崩溃，下一次 --list 会指出。</translation>
     </message>
+    <message>
+        <source>throws while it is loaded (%1)</source>
+        <translation>加载时抛出异常（%1）</translation>
+    </message>
+    <message>
+        <source>does not come back while it is loaded (within %1 s)</source>
+        <translation>加载时没有返回（%1 秒内）</translation>
+    </message>
+    <message>
+        <source>crashes while it is loaded (%1)</source>
+        <translation>加载时崩溃（%1）</translation>
+    </message>
+    <message>
+        <source>ends the program while it is loaded</source>
+        <translation>加载时结束程序</translation>
+    </message>
+    <message>
+        <source>%1 %2: correct what its static initialisers do.</source>
+        <translation>%1 %2：请修正其静态初始化的行为。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>panel::HomePage</name>

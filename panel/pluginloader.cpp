@@ -1,5 +1,6 @@
 #include "pluginloader.h"
 
+#include "faultnotice.h"
 #include "loadtrial.h"
 #include "panellog.h"
 #include "plugincheck.h"
@@ -10,6 +11,8 @@
 #include <QLibrary>
 #include <brisa/languagemanager.h>
 #include <brisa/managerhelper.h>
+#include <kest/bmodule.h>
+#include <kest/centerwidget.h>
 #include <kest/modulefactory.h>
 #include <locale.h>
 #include <ostrel/moduleobject.h>
@@ -235,6 +238,8 @@ void PluginLoader::markFaulty(const QString &module, const QString &cause)
         record.state = PluginRecord::Faulty;
         record.sentence = sentence;
     }
+    FaultNotice::put(sentence,
+                     instantiatedCenterWidget()->page(mName(QStringLiteral("zeplet"), module)));
     mirror();
 }
 

@@ -121,6 +121,19 @@ private Q_SLOTS:
         }
     }
 
+    /** Its page is in the navigation, and would be empty. */
+    void failedPluginSaysSoOnItsPage()
+    {
+        panel::MainWindow &window = m_session->window();
+        QVERIFY(window.showPage("zeplet.throwinginit"));
+        const auto *const notice = instantiatedCenterWidget()
+                                       ->page("zeplet.throwinginit")
+                                       ->findChild<QLabel *>("faultNotice");
+        QVERIFY(notice && notice->isVisible());
+        QVERIFY(notice->text().contains("no gripper is mounted; correct the plugin"));
+        QTRY_COMPARE(widgetchecks::faults(&window), QStringList());
+    }
+
     void systemPageShowsThePlugins()
     {
         panel::MainWindow &window = m_session->window();

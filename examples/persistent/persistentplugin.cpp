@@ -43,7 +43,7 @@ public:
 private:
     QLayout *createLine();
     void watch();
-    int select(QVector<QString> names);
+    int select(const QVector<QString> &names);
     void write();
     void follow(const QVariantMap &values);
     void say(int code, const QString &done);
@@ -96,9 +96,12 @@ void PersistentPlugin::init()
     zepletEvent()->subscribe(NetworkConnected, selectAgain, pluginName, m_page);
 }
 
-// The delivery has to be ended, else the panel goes on with it.
+// The delivery has to be ended, else the panel goes on with it; and so has the selection, else the
+// controller does.
 void PersistentPlugin::detach()
 {
+    if (!m_names.isEmpty())
+        select({});
     for (const QString &id : zepletEvent()->totalSubscriptionIds(pluginName))
         zepletInterface()->disconnectNexoData(pluginName, valuesKey, id);
     delete m_page;
@@ -141,13 +144,14 @@ void PersistentPlugin::watch()
 }
 
 // The selection belongs to the whole panel: what others watch stays in it.
-int PersistentPlugin::select(QVector<QString> names)
+int PersistentPlugin::select(const QVector<QString> &names)
 {
+    QVector<QString> all = names;
     for (const QVariant &other : zepletInterface()->getRegistedPERSVars()) {
-        if (!names.contains(other.toString()))
-            names.append(other.toString());
+        if (!all.contains(other.toString()) && !m_names.contains(other.toString()))
+            all.append(other.toString());
     }
-    return zepletInterface()->registPERSVars(names);
+    return zepletInterface()->registPERSVars(all);
 }
 
 void PersistentPlugin::write()

@@ -92,7 +92,7 @@ class Run:
         if arguments.fresh:
             state.unlink(missing_ok=True)
         watch = Watch(project.root) if arguments.watch else None
-        with Session(arguments.kit, project.runtime, scenario, state=self._kept(state)) as session:
+        with Session(arguments.kit, project.runtime, scenario, state=state) as session:
             self._session = session
             tell_where_panel_is()
             if arguments.seconds is not None:
@@ -100,11 +100,6 @@ class Run:
             self._open_panel()
             code = self._until_end(watch)
         return code if code != 0 else self._judge()
-
-    def _kept(self, state):
-        program = self._arguments.kit.program("zeplet-simulator")
-        text = subprocess.run([program, "--help"], capture_output=True, check=False).stdout
-        return state if b"--state" in text else None
 
     def _until_end(self, watch):
         for _ in self._session.turns():

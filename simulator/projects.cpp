@@ -64,7 +64,7 @@ Refusal Projects::open(const QString &name)
 
 Refusal Projects::makeDirectory(const QString &name) const
 {
-    const QString path = m_root + QLatin1Char('/') + name;
+    const QString path = m_root + QLatin1Char('/') + name + QLatin1String("/program");
     if (m_root.isEmpty() || QDir().mkpath(path))
         return std::nullopt;
     return QStringLiteral("cannot make the directory %1").arg(path);

@@ -34,7 +34,8 @@ public:
 
     /** Opens the project that is to be open at the start, if there is one. */
     Refusal load();
-    /** Makes the project's directory where it is missing, and its task. Refused for a name that is
+    /** Makes the project's directory and the one of its programs where they are missing, and its
+     *  task. Refused for a name that is
      *  no plain path component. */
     Refusal open(const QString &name);
     /** Drops the task of a project; its files stay. A project without a task has nothing to drop.

@@ -32,9 +32,11 @@ public:
     virtual bool CheckInsert();
     /** Whether what is entered may take the place of a line. What CheckInsert() says by default. */
     virtual bool CheckReplace();
-    /** The program's points or variables changed: reads again what it offers of them. */
+    /** The program's points or variables changed: reads again what it offers of them. For an editor
+     *  that keeps its widgets; the panel's makes a new one each time. */
     virtual void RefreshProgramData();
-    /** A title for the widget; empty, as by default: the editor's own. */
+    /** A title for the widget, for an editor that shows several; empty, as by default: the
+     *  instruction's type. */
     virtual QString GetLabel();
 };
 

@@ -6,22 +6,32 @@
 #include "ostrel/loglines_p.h"
 #include "ostrel/moduleobject_p.h"
 
+#include <QIODevice>
+
 namespace ostrel
 {
 
 namespace
 {
-bool refuse(const QString &path, const QString &reason)
+bool refuse(const char *operation, const QString &path, const QString &reason)
 {
-    errorLine() << "writeToJson: " << reason << ", path=" << path;
+    errorLine() << operation << ": " << reason << ", path=" << path;
     return false;
+}
+
+bool writeKept(const char *operation, const QString &path, const ContentWriter &write)
+{
+    QString error;
+    if (!keepCopy(path, &error) || !writeDurably(path, write, &error))
+        return refuse(operation, path, error);
+    return true;
 }
 } // namespace
 
 bool ModuleManager::writeToJson(const QString &path, const QJsonValue &value, bool indented)
 {
     if (value.isUndefined())
-        return refuse(path, QStringLiteral("the value is undefined"));
+        return refuse("writeToJson", path, QStringLiteral("the value is undefined"));
     const auto write = [&](QIODevice *file, QString *error) {
         const Node *list = ModuleObjectPrivate::lastExportedNode();
         const bool complete = writeJsonValue(value, indented, list, file);
@@ -29,10 +39,17 @@ bool ModuleManager::writeToJson(const QString &path, const QJsonValue &value, bo
             *error = QStringLiteral("the value is nested too deep");
         return complete;
     };
-    QString error;
-    if (!keepCopy(path, &error) || !writeDurably(path, write, &error))
-        return refuse(path, error);
-    return true;
+    return writeKept("writeToJson", path, write);
+}
+
+bool ModuleManager::writeFile(const QString &path, const QByteArray &content)
+{
+    // A file that takes less says why.
+    const auto write = [&content](QIODevice *file, QString *) {
+        file->write(content);
+        return true;
+    };
+    return writeKept("writeFile", path, write);
 }
 
 } // namespace ostrel

@@ -2,13 +2,14 @@
 
 #include "hostexport.h"
 
+#include <QByteArray>
 #include <QJsonValue>
 #include <QString>
 
 namespace ostrel
 {
 
-/** The host's file writer for JSON documents. */
+/** The host's file writer. */
 class HOST_EXPORT ModuleManager
 {
 public:
@@ -25,6 +26,10 @@ public:
      * step failed, the sync of its directory. Blocks for the disk. GUI thread.
      */
     static bool writeToJson(const QString &path, const QJsonValue &value, bool indented);
+
+    /** Writes the bytes as they are, and keeps, refuses and reports as writeToJson() does. Blocks
+     *  for the disk. GUI thread. */
+    static bool writeFile(const QString &path, const QByteArray &content);
 };
 
 } // namespace ostrel

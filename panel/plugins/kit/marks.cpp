@@ -7,6 +7,7 @@ namespace kit
 {
 
 using brisa::ThemeManager;
+namespace metrics = brisa::metrics;
 
 namespace
 {
@@ -62,22 +63,46 @@ int markWidth(const Mark &mark)
     return QFontMetrics(markFont()).horizontalAdvance(mark.text) + 2 * MarkPadding;
 }
 
-void drawMark(QPainter *painter, const QRect &box, const Mark &mark)
+void drawMark(QPainter *painter, const QRect &box, const Mark &mark, Outline outline)
 {
     const ToneColours colours = toneColours(mark.tone);
     QRect ground(box.x(), 0, qMin(markWidth(mark), box.width()), MarkHeight);
     ground.moveTop(box.center().y() - MarkHeight / 2);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
+    painter->setPen(outline == Outline::Drawn ? QPen(colours.line) : QPen(Qt::NoPen));
     painter->setBrush(colours.soft);
-    painter->drawRoundedRect(ground, MarkHeight / 2.0, MarkHeight / 2.0);
+    painter->drawRoundedRect(QRectF(ground).adjusted(0.5, 0.5, -0.5, -0.5), MarkHeight / 2.0,
+                             MarkHeight / 2.0);
     painter->setFont(markFont());
     painter->setPen(colours.line);
     const QRect text = ground.adjusted(MarkPadding, 0, -MarkPadding / 2, 0);
     painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                       painter->fontMetrics().elidedText(mark.text, Qt::ElideRight, text.width()));
     painter->restore();
+}
+
+void drawEmptyState(QPainter *painter, const QRect &room, brisa::Glyph glyph, const QString &title,
+                    const QString &hint)
+{
+    constexpr int icon = 2 * metrics::Icon;
+    constexpr int height = icon + 12 * metrics::Grid;
+    const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
+    const QRect box = room.adjusted(metrics::Margin, 0, -metrics::Margin, 0);
+    int y = qMax(0, box.center().y() - height / 2);
+    painter->drawPixmap(
+        box.center().x() - icon / 2, y,
+        brisa::glyphPixmap(glyph, colours.mutedText, icon, painter->device()->devicePixelRatioF()));
+    y += icon + metrics::Margin;
+    painter->setFont(ThemeManager::font(brisa::TextSize::Title, true));
+    painter->setPen(colours.text);
+    painter->drawText(QRect(box.x(), y, box.width(), 3 * metrics::Grid),
+                      Qt::AlignHCenter | Qt::AlignTop, title);
+    y += 4 * metrics::Grid;
+    painter->setFont(ThemeManager::font(brisa::TextSize::Body));
+    painter->setPen(colours.mutedText);
+    painter->drawText(QRect(box.x(), y, box.width(), box.bottom() - y),
+                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint);
 }
 
 } // namespace kit

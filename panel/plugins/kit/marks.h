@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <brisa/glyph.h>
 #include <brisa/tone.h>
 
 class QPainter;
@@ -33,7 +34,14 @@ struct Mark {
 };
 
 int markWidth(const Mark &mark);
+/** Drawn: for a ground that may have the mark's own colour, as what is chosen has. */
+enum class Outline { None, Drawn };
 /** Draws the mark at the left of the box, in the middle of its height. */
-void drawMark(QPainter *painter, const QRect &box, const Mark &mark);
+void drawMark(QPainter *painter, const QRect &box, const Mark &mark,
+              Outline outline = Outline::None);
+
+/** For a list without rows: pictogram, title and hint in the middle; the hint may wrap. */
+void drawEmptyState(QPainter *painter, const QRect &room, brisa::Glyph glyph, const QString &title,
+                    const QString &hint);
 
 } // namespace kit

@@ -19,8 +19,6 @@ namespace metrics = brisa::metrics;
 namespace
 {
 
-constexpr int CardWidth = 600;
-
 /** What can be seen of the page, in its window. */
 QRect seenOf(const QWidget *page)
 {
@@ -102,6 +100,11 @@ void Overlay::addCancel(const QString &text)
             &Overlay::finish);
 }
 
+void Overlay::setCardWidth(int width)
+{
+    m_cardWidth = width;
+}
+
 // The host dims its window when it counts: this comes above that.
 void Overlay::open()
 {
@@ -169,7 +172,7 @@ void Overlay::place()
     if (!m_page)
         return;
     setGeometry(seenOf(m_page));
-    m_card->setFixedWidth(qMin(CardWidth, width() - 2 * metrics::Margin));
+    m_card->setFixedWidth(qMin(m_cardWidth, width() - 2 * metrics::Margin));
 }
 
 void Overlay::applyTheme()

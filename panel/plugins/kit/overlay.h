@@ -40,6 +40,9 @@ public:
     /** Adds the button that only finishes it, as Escape then does too. */
     void addCancel(const QString &text);
 
+    /** Pixels, where the page has them; 600 unless it is called. */
+    void setCardWidth(int width);
+
     void open();
     void finish();
 
@@ -59,6 +62,7 @@ private:
     QFrame *m_card;
     QVBoxLayout *m_content;
     QHBoxLayout *m_buttons;
+    int m_cardWidth = 600;
     bool m_open = false;
     bool m_cancelable = false;
 };

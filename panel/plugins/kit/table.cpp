@@ -140,31 +140,13 @@ const Cell &Table::cell(int row, int column) const
     return m_model->cell(m_model->index(row, column));
 }
 
-// Pictogram, title and hint in the middle; the hint may wrap.
 void Table::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
     if (m_model->rowCount() > 0 || m_emptyTitle.isEmpty())
         return;
-    constexpr int icon = 2 * metrics::Icon;
-    constexpr int height = icon + 12 * metrics::Grid;
-    const brisa::ThemeColours &colours = ThemeManager::instance()->colours();
     QPainter painter(viewport());
-    QRect box = viewport()->rect().adjusted(metrics::Margin, 0, -metrics::Margin, 0);
-    int y = qMax(0, box.center().y() - height / 2);
-    painter.drawPixmap(
-        box.center().x() - icon / 2, y,
-        brisa::glyphPixmap(m_emptyGlyph, colours.mutedText, icon, devicePixelRatioF()));
-    y += icon + metrics::Margin;
-    painter.setFont(ThemeManager::font(brisa::TextSize::Title, true));
-    painter.setPen(colours.text);
-    painter.drawText(QRect(box.x(), y, box.width(), 3 * metrics::Grid),
-                     Qt::AlignHCenter | Qt::AlignTop, m_emptyTitle);
-    y += 4 * metrics::Grid;
-    painter.setFont(ThemeManager::font(brisa::TextSize::Body));
-    painter.setPen(colours.mutedText);
-    painter.drawText(QRect(box.x(), y, box.width(), box.bottom() - y),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyHint);
+    drawEmptyState(&painter, viewport()->rect(), m_emptyGlyph, m_emptyTitle, m_emptyHint);
 }
 
 void Table::resizeEvent(QResizeEvent *event)

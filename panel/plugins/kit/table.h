@@ -5,7 +5,6 @@
 
 #include <QTableView>
 #include <QVector>
-#include <brisa/glyph.h>
 
 namespace kit
 {

@@ -40,6 +40,106 @@
     </message>
 </context>
 <context>
+    <name>InsertDialog</name>
+    <message>
+        <source>Insert an instruction</source>
+        <translation>Anweisung einfügen</translation>
+    </message>
+    <message>
+        <source>Write a line</source>
+        <translation>Zeile schreiben</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Instruction</source>
+        <translation>Anweisung</translation>
+    </message>
+    <message>
+        <source>No instructions</source>
+        <translation>Keine Anweisungen</translation>
+    </message>
+    <message>
+        <source>They come with plugins. &quot;Write a line&quot; takes any text.</source>
+        <translation>Sie kommen mit Plugins. &quot;Zeile schreiben&quot; nimmt jeden Text.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be inserted: its plugin gave neither a widget nor a text. Write the line instead.</source>
+        <translation>&quot;%1&quot; kann nicht eingefügt werden: das Plugin gab weder Eingabefeld noch Text. Stattdessen die Zeile schreiben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be inserted: %2. Write the line instead.</source>
+        <translation>&quot;%1&quot; kann nicht eingefügt werden: %2. Stattdessen die Zeile schreiben.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be inserted yet: correct what is entered.</source>
+        <translation>Noch nicht einfügbar: die Eingaben berichtigen.</translation>
+    </message>
+</context>
+<context>
+    <name>InstructionBox</name>
+    <message>
+        <source>its plugin gave no widget</source>
+        <translation>das Plugin gab kein Eingabefeld</translation>
+    </message>
+    <message>
+        <source>There is nothing to enter.</source>
+        <translation>Es gibt nichts einzugeben.</translation>
+    </message>
+    <message>
+        <source>its plugin has taken the widget away</source>
+        <translation>das Plugin hat das Eingabefeld weggenommen</translation>
+    </message>
+</context>
+<context>
+    <name>Instructions</name>
+    <message>
+        <source>%1 at its character %2</source>
+        <translation>%1 bei Zeichen %2</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Weitere</translation>
+    </message>
+    <message>
+        <source>it takes too long on the line &quot;%1&quot;</source>
+        <translation>es braucht zu lange für die Zeile &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Lines with &quot;%1&quot; are not recognised, since its pattern can&apos;t be used: %2. Its plugin has to be corrected.</source>
+        <translation>Zeilen mit &quot;%1&quot; werden nicht erkannt, weil ihr Muster unbrauchbar ist: %2. Das Plugin muss berichtigt werden.</translation>
+    </message>
+    <message>
+        <source>Other types with such a pattern: %1.</source>
+        <translation>Weitere Anweisungen mit solchem Muster: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LineDelegate</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>MoveBar</name>
     <message>
         <source>Move</source>
@@ -345,6 +445,193 @@
     </message>
 </context>
 <context>
+    <name>ProgramPage</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Neues Programm</translation>
+    </message>
+    <message>
+        <source>Delete program</source>
+        <translation>Programm löschen</translation>
+    </message>
+    <message>
+        <source>Send to the controller</source>
+        <translation>An die Steuerung senden</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Edit text</source>
+        <translation>Text ändern</translation>
+    </message>
+    <message>
+        <source>Move the line up</source>
+        <translation>Zeile nach oben</translation>
+    </message>
+    <message>
+        <source>Move the line down</source>
+        <translation>Zeile nach unten</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>A program is running, with the text that it had at its start. What you change here can be sent when it has stopped.</source>
+        <translation>Ein Programm läuft, mit dem Text, den es beim Start hatte. Was hier geändert wird, kann gesendet werden, wenn es steht.</translation>
+    </message>
+    <message>
+        <source>No project is open</source>
+        <translation>Kein Projekt ist geöffnet</translation>
+    </message>
+    <message>
+        <source>Project %1; files whose names no program can have: %2</source>
+        <translation>Projekt %1; Dateien mit Namen, die kein Programm haben kann: %2</translation>
+    </message>
+    <message>
+        <source>Project %1, lines: %2</source>
+        <translation>Projekt %1, Zeilen: %2</translation>
+    </message>
+    <message>
+        <source>Open one on the page &quot;Projects&quot;.</source>
+        <translation>Auf der Seite &quot;Projekte&quot; eines öffnen.</translation>
+    </message>
+    <message>
+        <source>No programs yet</source>
+        <translation>Noch keine Programme</translation>
+    </message>
+    <message>
+        <source>&quot;New program&quot; makes the first one of this project.</source>
+        <translation>&quot;Neues Programm&quot; legt das erste dieses Projekts an.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be shown</source>
+        <translation>Es kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The program is empty</source>
+        <translation>Das Programm ist leer</translation>
+    </message>
+    <message>
+        <source>&quot;Insert&quot; makes its first line.</source>
+        <translation>&quot;Einfügen&quot; macht die erste Zeile.</translation>
+    </message>
+    <message>
+        <source>No link to the controller</source>
+        <translation>Keine Verbindung zur Steuerung</translation>
+    </message>
+    <message>
+        <source>Same text on the controller</source>
+        <translation>Gleicher Text auf der Steuerung</translation>
+    </message>
+    <message>
+        <source>Other text on the controller</source>
+        <translation>Anderer Text auf der Steuerung</translation>
+    </message>
+    <message>
+        <source>Not on the controller yet</source>
+        <translation>Noch nicht auf der Steuerung</translation>
+    </message>
+    <message>
+        <source>A program has at most 1 MiB, and nothing was changed: divide it.</source>
+        <translation>Ein Programm hat höchstens 1 MiB, und nichts wurde geändert: es aufteilen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed elsewhere meanwhile, and your change was not made: look at it, and change it again.</source>
+        <translation>&quot;%1&quot; wurde inzwischen anderswo geändert, und die eigene Änderung unterblieb: ansehen und erneut ändern.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be saved, and your change was not made: check the space on the panel&apos;s disk, and try again.</source>
+        <translation>&quot;%1&quot; konnte nicht gespeichert werden, und die Änderung unterblieb: den Platz auf der Platte des Bedienpanels prüfen und erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>Another program or line is shown meanwhile, and nothing was changed: choose the line, and try again.</source>
+        <translation>Inzwischen wird ein anderes Programm oder eine andere Zeile gezeigt, und nichts wurde geändert: die Zeile wählen und erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk, and that its project is still open.</source>
+        <translation>&quot;%1&quot; konnte nicht angelegt werden: prüfen, ob auf der Platte des Bedienpanels Platz und das Projekt noch geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Delete the program &quot;%1&quot;?</source>
+        <translation>Das Programm &quot;%1&quot; löschen?</translation>
+    </message>
+    <message>
+        <source>Its text on this panel is lost. What was sent to the controller stays there.</source>
+        <translation>Sein Text auf diesem Bedienpanel geht verloren. Was an die Steuerung gesendet wurde, bleibt dort.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is deleted on this panel.</source>
+        <translation>&quot;%1&quot; ist auf diesem Bedienpanel gelöscht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted, and stays: check the panel&apos;s disk.</source>
+        <translation>&quot;%1&quot; konnte nicht gelöscht werden und bleibt: die Platte des Bedienpanels prüfen.</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; wird gesendet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not sent: the link is lost, or a program runs. Send it again later.</source>
+        <translation>&quot;%1&quot; wurde nicht gesendet: die Verbindung fehlt, oder ein Programm läuft. Später erneut senden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is on the controller.</source>
+        <translation>&quot;%1&quot; ist auf der Steuerung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is saved on this panel, but could not be sent: check the network to the controller, then send it again.</source>
+        <translation>&quot;%1&quot; ist auf diesem Bedienpanel gespeichert, konnte aber nicht gesendet werden: das Netz zur Steuerung prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>Write a line</source>
+        <translation>Zeile schreiben</translation>
+    </message>
+    <message>
+        <source>The properties of &quot;%1&quot; can&apos;t be shown: %2. Its text can be edited.</source>
+        <translation>Die Eigenschaften von &quot;%1&quot; können nicht gezeigt werden: %2. Der Text kann geändert werden.</translation>
+    </message>
+    <message>
+        <source>The line is longer than %1 characters, and can&apos;t be edited here: it can be deleted, and written anew.</source>
+        <translation>Die Zeile ist länger als %1 Zeichen und kann hier nicht geändert werden: sie kann gelöscht und neu geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Edit line %1</source>
+        <translation>Zeile %1 ändern</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+</context>
+<context>
     <name>ProjectsPage</name>
     <message>
         <source>Open</source>
@@ -454,6 +741,29 @@
         <source>Open</source>
         <comment>state of a project</comment>
         <translation>Geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>its plugin has no widget for that</source>
+        <translation>das Plugin hat dafür kein Eingabefeld</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be applied yet: correct what is entered.</source>
+        <translation>Noch nicht übernehmbar: die Eingaben berichtigen.</translation>
+    </message>
+    <message>
+        <source>The line stays as it is: %1. Edit its text instead.</source>
+        <translation>Die Zeile bleibt, wie sie ist: %1. Stattdessen ihren Text ändern.</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1440,10 @@
         <source>Variables</source>
         <translation>Variablen</translation>
     </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
 </context>
 <context>
     <name>panel</name>
@@ -1731,6 +2045,77 @@
     <message>
         <source>The element %1 is there already: choose another index.</source>
         <translation>Das Element %1 gibt es schon: einen anderen Index wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>program</name>
+    <message>
+        <source>its plugin gave an empty function</source>
+        <translation>das Plugin gab eine leere Funktion</translation>
+    </message>
+    <message>
+        <source>its plugin failed with &quot;%1&quot;</source>
+        <translation>das Plugin scheiterte mit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>its plugin failed without saying why</source>
+        <translation>das Plugin scheiterte ohne Begründung</translation>
+    </message>
+    <message>
+        <source>it is a link to another place</source>
+        <translation>sie ist ein Verweis an eine andere Stelle</translation>
+    </message>
+    <message>
+        <source>it is no longer there</source>
+        <translation>sie ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>it is no plain file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than 1 MiB</source>
+        <translation>sie ist größer als 1 MiB</translation>
+    </message>
+    <message>
+        <source>The program needs a name.</source>
+        <translation>Das Programm braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 characters.</source>
+        <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>A name begins with a letter or a digit and has letters, digits, spaces and the signs _ - . only.</source>
+        <translation>Ein Name beginnt mit einem Buchstaben oder einer Ziffer und hat nur Buchstaben, Ziffern, Leerzeichen und die Zeichen _ - .</translation>
+    </message>
+    <message>
+        <source>There is a program &quot;%1&quot; already: choose another name.</source>
+        <translation>Es gibt schon ein Programm &quot;%1&quot;: einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>it is no text in UTF-8</source>
+        <translation>sie ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be shown: %2. The file stays as it is; put a text file in its place, or choose another program.</source>
+        <translation>&quot;%1&quot; kann nicht gezeigt werden: %2. Die Datei bleibt, wie sie ist; eine Textdatei an ihre Stelle legen oder ein anderes Programm wählen.</translation>
+    </message>
+    <message>
+        <source>A line has at most %1 characters: shorten it.</source>
+        <translation>Eine Zeile hat höchstens %1 Zeichen: sie kürzen.</translation>
+    </message>
+    <message>
+        <source>It holds characters that are no text: leave them out.</source>
+        <translation>Sie enthält Zeichen, die kein Text sind: sie weglassen.</translation>
+    </message>
+    <message>
+        <source>One instruction has at most %1 lines.</source>
+        <translation>Eine Anweisung hat höchstens %1 Zeilen.</translation>
+    </message>
+    <message>
+        <source>There is no text: fill in what is missing.</source>
+        <translation>Es fehlt der Text: das Fehlende eintragen.</translation>
     </message>
 </context>
 <context>

@@ -40,6 +40,106 @@
     </message>
 </context>
 <context>
+    <name>InsertDialog</name>
+    <message>
+        <source>Insert an instruction</source>
+        <translation>插入指令</translation>
+    </message>
+    <message>
+        <source>Write a line</source>
+        <translation>手写一行</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Instruction</source>
+        <translation>指令</translation>
+    </message>
+    <message>
+        <source>No instructions</source>
+        <translation>没有指令</translation>
+    </message>
+    <message>
+        <source>They come with plugins. &quot;Write a line&quot; takes any text.</source>
+        <translation>指令由插件提供。&quot;手写一行&quot;可输入任意文本。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be inserted: its plugin gave neither a widget nor a text. Write the line instead.</source>
+        <translation>无法插入“%1”：其插件既未提供界面也未提供文本。请改为手写该行。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be inserted: %2. Write the line instead.</source>
+        <translation>无法插入“%1”：%2。请改为手写该行。</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be inserted yet: correct what is entered.</source>
+        <translation>暂时无法插入：请更正输入内容。</translation>
+    </message>
+</context>
+<context>
+    <name>InstructionBox</name>
+    <message>
+        <source>its plugin gave no widget</source>
+        <translation>其插件未提供界面</translation>
+    </message>
+    <message>
+        <source>There is nothing to enter.</source>
+        <translation>无需输入。</translation>
+    </message>
+    <message>
+        <source>its plugin has taken the widget away</source>
+        <translation>其插件已收回界面</translation>
+    </message>
+</context>
+<context>
+    <name>Instructions</name>
+    <message>
+        <source>%1 at its character %2</source>
+        <translation>%1（第 %2 个字符处）</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>it takes too long on the line &quot;%1&quot;</source>
+        <translation>在“%1”这一行上耗时过长</translation>
+    </message>
+    <message>
+        <source>Lines with &quot;%1&quot; are not recognised, since its pattern can&apos;t be used: %2. Its plugin has to be corrected.</source>
+        <translation>无法识别含“%1”的行，因为其匹配模式不可用：%2。需要更正其插件。</translation>
+    </message>
+    <message>
+        <source>Other types with such a pattern: %1.</source>
+        <translation>另有此类模式的指令：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>LineDelegate</name>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
     <name>MoveBar</name>
     <message>
         <source>Move</source>
@@ -345,6 +445,193 @@
     </message>
 </context>
 <context>
+    <name>ProgramPage</name>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>新建程序</translation>
+    </message>
+    <message>
+        <source>Delete program</source>
+        <translation>删除程序</translation>
+    </message>
+    <message>
+        <source>Send to the controller</source>
+        <translation>发送到控制器</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Edit text</source>
+        <translation>编辑文本</translation>
+    </message>
+    <message>
+        <source>Move the line up</source>
+        <translation>上移该行</translation>
+    </message>
+    <message>
+        <source>Move the line down</source>
+        <translation>下移该行</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>删除行</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>A program is running, with the text that it had at its start. What you change here can be sent when it has stopped.</source>
+        <translation>程序正在运行，使用其启动时的文本。此处的更改可在程序停止后发送。</translation>
+    </message>
+    <message>
+        <source>No project is open</source>
+        <translation>未打开项目</translation>
+    </message>
+    <message>
+        <source>Project %1; files whose names no program can have: %2</source>
+        <translation>项目 %1；文件名不能作为程序名的文件：%2</translation>
+    </message>
+    <message>
+        <source>Project %1, lines: %2</source>
+        <translation>项目 %1，行数：%2</translation>
+    </message>
+    <message>
+        <source>Open one on the page &quot;Projects&quot;.</source>
+        <translation>请在“项目”页面打开一个。</translation>
+    </message>
+    <message>
+        <source>No programs yet</source>
+        <translation>尚无程序</translation>
+    </message>
+    <message>
+        <source>&quot;New program&quot; makes the first one of this project.</source>
+        <translation>“新建程序”可创建此项目的第一个程序。</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be shown</source>
+        <translation>无法显示</translation>
+    </message>
+    <message>
+        <source>The program is empty</source>
+        <translation>程序为空</translation>
+    </message>
+    <message>
+        <source>&quot;Insert&quot; makes its first line.</source>
+        <translation>“插入”可添加第一行。</translation>
+    </message>
+    <message>
+        <source>No link to the controller</source>
+        <translation>未连接控制器</translation>
+    </message>
+    <message>
+        <source>Same text on the controller</source>
+        <translation>控制器上的文本相同</translation>
+    </message>
+    <message>
+        <source>Other text on the controller</source>
+        <translation>控制器上的文本不同</translation>
+    </message>
+    <message>
+        <source>Not on the controller yet</source>
+        <translation>控制器上尚无此程序</translation>
+    </message>
+    <message>
+        <source>A program has at most 1 MiB, and nothing was changed: divide it.</source>
+        <translation>程序最大 1 MiB，未作任何更改：请将其拆分。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed elsewhere meanwhile, and your change was not made: look at it, and change it again.</source>
+        <translation>“%1”已在别处被更改，您的更改未生效：请查看后重新更改。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be saved, and your change was not made: check the space on the panel&apos;s disk, and try again.</source>
+        <translation>无法保存“%1”，您的更改未生效：请检查面板磁盘空间后重试。</translation>
+    </message>
+    <message>
+        <source>Another program or line is shown meanwhile, and nothing was changed: choose the line, and try again.</source>
+        <translation>当前显示的是其他程序或行，未作任何更改：请选择该行后重试。</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk, and that its project is still open.</source>
+        <translation>无法创建“%1”：请检查面板磁盘空间，并确认其项目仍处于打开状态。</translation>
+    </message>
+    <message>
+        <source>Delete the program &quot;%1&quot;?</source>
+        <translation>删除程序“%1”？</translation>
+    </message>
+    <message>
+        <source>Its text on this panel is lost. What was sent to the controller stays there.</source>
+        <translation>此面板上的文本将丢失。已发送到控制器的内容保留在控制器上。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is deleted on this panel.</source>
+        <translation>已在此面板上删除“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted, and stays: check the panel&apos;s disk.</source>
+        <translation>无法删除“%1”，已保留：请检查面板磁盘。</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot;</source>
+        <translation>正在发送“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not sent: the link is lost, or a program runs. Send it again later.</source>
+        <translation>“%1”未发送：连接已断开或有程序正在运行。请稍后再次发送。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is on the controller.</source>
+        <translation>“%1”已在控制器上。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is saved on this panel, but could not be sent: check the network to the controller, then send it again.</source>
+        <translation>“%1”已保存在此面板上，但无法发送：请检查与控制器的网络，然后再次发送。</translation>
+    </message>
+    <message>
+        <source>Write a line</source>
+        <translation>手写一行</translation>
+    </message>
+    <message>
+        <source>The properties of &quot;%1&quot; can&apos;t be shown: %2. Its text can be edited.</source>
+        <translation>无法显示“%1”的属性：%2。可以编辑其文本。</translation>
+    </message>
+    <message>
+        <source>The line is longer than %1 characters, and can&apos;t be edited here: it can be deleted, and written anew.</source>
+        <translation>该行超过 %1 个字符，无法在此编辑：可以删除后重新编写。</translation>
+    </message>
+    <message>
+        <source>Edit line %1</source>
+        <translation>编辑第 %1 行</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+</context>
+<context>
     <name>ProjectsPage</name>
     <message>
         <source>Open</source>
@@ -454,6 +741,29 @@
         <source>Open</source>
         <comment>state of a project</comment>
         <translation>已打开</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>its plugin has no widget for that</source>
+        <translation>其插件没有相应的界面</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be applied yet: correct what is entered.</source>
+        <translation>暂时无法应用：请更正输入内容。</translation>
+    </message>
+    <message>
+        <source>The line stays as it is: %1. Edit its text instead.</source>
+        <translation>该行保持不变：%1。请改为编辑其文本。</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1440,10 @@
         <source>Variables</source>
         <translation>变量</translation>
     </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
 </context>
 <context>
     <name>panel</name>
@@ -1731,6 +2045,77 @@
     <message>
         <source>The element %1 is there already: choose another index.</source>
         <translation>元素 %1 已存在：请选择其他索引。</translation>
+    </message>
+</context>
+<context>
+    <name>program</name>
+    <message>
+        <source>its plugin gave an empty function</source>
+        <translation>其插件提供了空函数</translation>
+    </message>
+    <message>
+        <source>its plugin failed with &quot;%1&quot;</source>
+        <translation>其插件出错：“%1”</translation>
+    </message>
+    <message>
+        <source>its plugin failed without saying why</source>
+        <translation>其插件出错，原因不明</translation>
+    </message>
+    <message>
+        <source>it is a link to another place</source>
+        <translation>它是指向别处的链接</translation>
+    </message>
+    <message>
+        <source>it is no longer there</source>
+        <translation>它已不存在</translation>
+    </message>
+    <message>
+        <source>it is no plain file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>it is larger than 1 MiB</source>
+        <translation>它大于 1 MiB</translation>
+    </message>
+    <message>
+        <source>The program needs a name.</source>
+        <translation>程序需要名称。</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 characters.</source>
+        <translation>名称最多 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>A name begins with a letter or a digit and has letters, digits, spaces and the signs _ - . only.</source>
+        <translation>名称以字母或数字开头，只能包含字母、数字、空格以及符号 _ - .</translation>
+    </message>
+    <message>
+        <source>There is a program &quot;%1&quot; already: choose another name.</source>
+        <translation>已有程序“%1”：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>it is no text in UTF-8</source>
+        <translation>它不是 UTF-8 文本</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be shown: %2. The file stays as it is; put a text file in its place, or choose another program.</source>
+        <translation>无法显示“%1”：%2。文件保持不变；请用文本文件替换，或选择其他程序。</translation>
+    </message>
+    <message>
+        <source>A line has at most %1 characters: shorten it.</source>
+        <translation>一行最多 %1 个字符：请缩短。</translation>
+    </message>
+    <message>
+        <source>It holds characters that are no text: leave them out.</source>
+        <translation>其中含有非文本字符：请去掉。</translation>
+    </message>
+    <message>
+        <source>One instruction has at most %1 lines.</source>
+        <translation>一条指令最多 %1 行。</translation>
+    </message>
+    <message>
+        <source>There is no text: fill in what is missing.</source>
+        <translation>没有文本：请补全缺少的内容。</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,7 @@ CheckSteps allSteps(CheckSession *session)
 {
     CheckSteps steps;
     for (auto *group : {startSteps, controllerSteps, watchSteps, projectSteps, pointSteps,
-                        hotUpdateSteps, variableSteps, motionSteps, signalSteps,
+                        hotUpdateSteps, variableSteps, programSteps, motionSteps, signalSteps,
                         persistentVariableSteps, runSteps, lossSteps, endSteps})
         steps += group(session);
     return steps;

@@ -16,6 +16,7 @@ CheckSteps projectSteps(CheckSession *session);
 CheckSteps pointSteps(CheckSession *session);
 CheckSteps hotUpdateSteps(CheckSession *session);
 CheckSteps variableSteps(CheckSession *session);
+CheckSteps programSteps(CheckSession *session);
 CheckSteps motionSteps(CheckSession *session);
 CheckSteps signalSteps(CheckSession *session);
 CheckSteps persistentVariableSteps(CheckSession *session);

@@ -92,8 +92,8 @@ void InsertDialog::onWriting(std::function<void()> writing)
 QWidget *InsertDialog::makeChooser()
 {
     auto *const chooser = new QWidget;
-    m_groupTable = new kit::Table({tr("Group")}, chooser);
-    m_typeTable = new kit::Table({tr("Instruction")}, chooser);
+    m_groupTable = new kit::Table([] { return QStringList {tr("Group")}; }, chooser);
+    m_typeTable = new kit::Table([] { return QStringList {tr("Instruction")}; }, chooser);
     m_groupTable->setObjectName(QStringLiteral("instructionGroups"));
     m_typeTable->setObjectName(QStringLiteral("instructionTypes"));
     m_groupTable->setFixedWidth(GroupsWidth);

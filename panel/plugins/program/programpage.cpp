@@ -38,16 +38,18 @@ bool isLive()
 } // namespace
 
 ProgramPage::ProgramPage(QWidget *parent)
-    : Page(pluginName(), tr("Program"), parent)
+    : Page(
+        pluginName(), [] { return tr("Program"); }, parent)
     , m_instructions(new Instructions(this))
     , m_broken(new kit::NoticeLine(kit::NoticeLine::Kept, this))
     , m_running(new kit::NoticeLine(kit::NoticeLine::Kept, this))
     , m_choice(new QComboBox(this))
     , m_state(new StateLine(this))
     , m_view(new ProgramView(m_instructions, this))
-    , m_new(addButton(QString(), QStringLiteral("newProgram")))
-    , m_delete(addButton(QString(), QStringLiteral("deleteProgram")))
-    , m_send(addButton(QString(), QStringLiteral("sendProgram"), QStringLiteral("primary")))
+    , m_new(addButton([] { return tr("New program"); }, QStringLiteral("newProgram")))
+    , m_delete(addButton([] { return tr("Delete program"); }, QStringLiteral("deleteProgram")))
+    , m_send(addButton([] { return tr("Send to the controller"); }, QStringLiteral("sendProgram"),
+                       QStringLiteral("primary")))
 {
     m_choice->setObjectName(QStringLiteral("programs"));
     m_choice->setMinimumWidth(ChoiceWidth);
@@ -114,9 +116,6 @@ QPushButton *ProgramPage::makeKey(const char *objectName, void (ProgramPage::*ac
 
 void ProgramPage::setTexts()
 {
-    m_new->setText(tr("New program"));
-    m_delete->setText(tr("Delete program"));
-    m_send->setText(tr("Send to the controller"));
     m_insert->setText(tr("Insert"));
     m_properties->setText(tr("Properties"));
     m_edit->setText(tr("Edit text"));
@@ -129,7 +128,6 @@ void ProgramPage::setTexts()
                    tr("A program is running, with the text that it had at its start. What you "
                       "change here can be sent when it has stopped."));
     m_running->setVisible(isRunning());
-    refreshSoon();
 }
 
 void ProgramPage::setIcons()

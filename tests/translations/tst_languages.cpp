@@ -136,6 +136,7 @@ private Q_SLOTS:
                                    {"variables", "count", "changeVariable"},
                                    {"variables", "count", "deleteVariable"},
                                    {"projects", "", "newProject"},
+                                   {"program", "", "newProgram"},
                                    {"projects", "cell", "removeProject"},
                                    {"signals", "", "simulateInputs"}};
         for (const QStringList &form : forms)

@@ -24,6 +24,7 @@
 #include <brisa/tasknetworkmanager.h>
 #include <kest/centerwidget.h>
 #include <kest/modulerunner.h>
+#include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
 
@@ -35,7 +36,7 @@ namespace test
 namespace
 {
 
-constexpr int startTimeout = 10000; // ms
+constexpr int startTimeout = 30000; // ms, for each wait
 constexpr int pageTimeout = 5000; // ms
 
 bool oneLives = false;
@@ -99,7 +100,9 @@ public:
     bool startSimulator();
     bool startSession();
     bool checkPlugins();
+    bool waitForLinks();
     bool openProject();
+    bool waitUntilQuiet();
     void enterStep(const QString &module);
     QStringList plugins() const;
     bool waitForFrames(int frames) const;
@@ -236,14 +239,19 @@ bool TestPanel::Private::checkPlugins()
     return true;
 }
 
-bool TestPanel::Private::openProject()
+bool TestPanel::Private::waitForLinks()
 {
     const auto isConnected = [] {
         return brisa::ManagerHelper::instance()->taskNetworkManager()->isConnect()
+            && nexo()->mobj()->getBool(QStringLiteral("connected"), false)
             && !stored("brisa.r.id").isEmpty();
     };
-    if (!QTest::qWaitFor(isConnected, startTimeout))
-        return fail(QStringLiteral("The panel found no link to the simulated controller."));
+    return QTest::qWaitFor(isConnected, startTimeout)
+        || fail(QStringLiteral("The panel found no link to the simulated controller."));
+}
+
+bool TestPanel::Private::openProject()
+{
     if (setup.project.isEmpty())
         return true;
     const int result = zepletInterface()->createProject(setup.project, QString(), true);
@@ -256,6 +264,26 @@ bool TestPanel::Private::openProject()
     };
     return QTest::qWaitFor(isOpen, startTimeout)
         || fail(QStringLiteral("The controller did not open the project."));
+}
+
+/** Until the panel has read all that it mirrors: each answer may bring another request, and an
+ *  answer comes after all that was sent before it. */
+bool TestPanel::Private::waitUntilQuiet()
+{
+    const QString probe = QStringLiteral("system.state.get");
+    int before = -1;
+    const auto isQuiet = [&] {
+        zepletInterface()->rcExecRequestFullCommand(probe, QJsonValue());
+        QJsonObject counts
+            = simulator->call([](simulator::Simulator &s) { return s.requests().counts(); });
+        counts.remove(probe);
+        int now = 0;
+        for (const QJsonValue &count : qAsConst(counts))
+            now += count.toInt();
+        return now == std::exchange(before, now);
+    };
+    return QTest::qWaitFor(isQuiet, startTimeout)
+        || fail(QStringLiteral("The plugins send requests to the controller without end."));
 }
 
 QStringList TestPanel::Private::plugins() const
@@ -281,7 +309,8 @@ TestPanel::~TestPanel() = default;
 bool TestPanel::start()
 {
     const bool done = d->prepare() && d->startSimulator() && d->writeSettings() && d->startSession()
-        && d->checkPlugins() && d->openProject() && d->checkPlugins();
+        && d->checkPlugins() && d->waitForLinks() && d->openProject() && d->waitUntilQuiet()
+        && d->checkPlugins();
     if (d->bus)
         d->bus->clear();
     return done;

@@ -36,9 +36,9 @@ public:
     ~TestPanel();
     Q_DISABLE_COPY(TestPanel)
 
-    /** Once. True when every plugin runs, the controller and its hub are connected and the project
-     *  is open on both sides; up to 10 s. A plugin that was refused or failed gives its sentence.
-     */
+    /** Once. True when every plugin runs, the controller and its hub are connected, the project is
+     *  open on both sides and the panel has read what the controller holds: about half a second. A
+     *  plugin that was refused or failed gives its sentence. */
     bool start();
     /** Why the last call that failed did so, in a sentence. */
     QString problem() const;

@@ -20,6 +20,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <brisa/languagemanager.h>
 #include <brisa/managerhelper.h>
 #include <brisa/tasknetworkmanager.h>
 #include <kest/centerwidget.h>
@@ -37,7 +38,7 @@ namespace
 {
 
 constexpr int startTimeout = 30000; // ms, for each wait
-constexpr int pageTimeout = 5000; // ms
+constexpr int pageTimeout = 30000; // ms
 
 bool oneLives = false;
 
@@ -148,6 +149,10 @@ bool TestPanel::Private::prepare()
     const QString missing = missingProgram();
     if (!missing.isEmpty())
         return fail(QStringLiteral("%1 is not installed: install the package %1.").arg(missing));
+    const QStringList languages = brisa::LanguageManager::languages();
+    if (!setup.language.isEmpty() && !languages.contains(setup.language))
+        return fail(QStringLiteral("There is no language \"%1\"; there are: %2.")
+                        .arg(setup.language, languages.join(QStringLiteral(", "))));
     oneLives = true;
     surroundings = std::make_unique<Surroundings>();
     // In memory where that can be had: the disk's own sync would take most of the time.
@@ -219,7 +224,9 @@ bool TestPanel::Private::startSession()
                      [this](const QString &module) { enterStep(module); });
     QObject::connect(session.get(), &panel::PanelSession::stepFinished, &context,
                      [this] { bus->setStep(QString()); });
-    return session->start(&problem);
+    return session->start(&problem)
+        && (QTest::qWaitForWindowExposed(&session->window(), startTimeout)
+            || fail(QStringLiteral("The panel's window did not appear.")));
 }
 
 /** The first step is the last moment without a plugin. */
@@ -335,7 +342,10 @@ QWidget *TestPanel::page(const QString &plugin)
         return nullptr;
     }
     // Pages are styled in a frame, and laid out after it.
-    d->waitForFrames(2);
+    if (!d->waitForFrames(2)) {
+        d->fail(QStringLiteral("The panel stands still: a plugin holds it up."));
+        return nullptr;
+    }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     return instantiatedCenterWidget()->page(key);
 }

@@ -23,6 +23,18 @@ class TestTestPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anotherSetup()
+    {
+        PanelSetup setup;
+        setup.project.clear();
+        setup.language = "de";
+        TestPanel panel(setup);
+        START(panel);
+        QCOMPARE(zeplet::zepletInterface()->getCurProject(), QString());
+        QCOMPARE(panel.panelFile("point.json"), QString());
+        QCOMPARE(panel.window()->windowTitle(), QString("Bedienpanel"));
+    }
+
     void aDay()
     {
         const QByteArray path = qgetenv("PATH");
@@ -31,6 +43,8 @@ private Q_SLOTS:
             TestPanel panel;
             START(panel);
             QVERIFY(!TestPanel().start());
+            QCOMPARE(panel.window()->windowTitle(), QString("Robot panel"));
+            QCOMPARE(zeplet::zepletInterface()->getIOByType("DI").size(), 4);
             QWidget *const page = panel.page("mannered");
             DONE(page);
             QCOMPARE(comparePicture(page, "mannered.png"), QString());
@@ -165,16 +179,6 @@ private Q_SLOTS:
         QVERIFY(!panel.injectFault("refusal", "x", {{"times", "often"}}));
         DONE(panel.injectFault("controller_down", ""));
         DONE(panel.waitForEvent(zeplet::NetworkDisconnected));
-    }
-
-    void withoutAProject()
-    {
-        PanelSetup setup;
-        setup.project.clear();
-        TestPanel panel(setup);
-        START(panel);
-        QCOMPARE(zeplet::zepletInterface()->getCurProject(), QString());
-        QCOMPARE(panel.panelFile("point.json"), QString());
     }
 
 private:

@@ -1,33 +1,18 @@
 #include "testpanel.h"
 
-#include "parts/buswatch.h"
-#include "parts/hoststate.h"
-#include "parts/leftovers.h"
-#include "parts/readyscenario.h"
-#include "parts/simulatorfixture.h"
-#include "parts/surroundings.h"
+#include "parts/panelsite.h"
 
 #include <mainwindow.h>
-#include <panelsession.h>
-#include <pluginloader.h>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QFileInfo>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QScrollArea>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
-#include <brisa/languagemanager.h>
-#include <brisa/managerhelper.h>
-#include <brisa/tasknetworkmanager.h>
 #include <kest/centerwidget.h>
 #include <kest/modulerunner.h>
-#include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
-#include <zeplet/interface/interfacemanager.h>
 
 namespace zeplet
 {
@@ -37,29 +22,10 @@ namespace test
 namespace
 {
 
-constexpr int startTimeout = 30000; // ms, for each wait
-constexpr int pageTimeout = 30000; // ms
-
-bool oneLives = false;
-
-QString stored(const char *key)
-{
-    return m(QLatin1String(key))->getStr(QString());
-}
-
 /** "SIM-0001/test": below the workspace. */
 QString currentProject()
 {
-    return stored("tavik.project.cur_project");
-}
-
-QString missingProgram()
-{
-    for (const char *program : {"rsync", "socat"}) {
-        if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty())
-            return QLatin1String(program);
-    }
-    return {};
+    return m(QStringLiteral("tavik.project.cur_project"))->getStr(QString());
 }
 
 QString counted(const QJsonObject &counts)
@@ -85,226 +51,11 @@ void scrollTo(QWidget *widget)
 
 } // namespace
 
-class TestPanel::Private
+class TestPanel::Private : public PanelSite
 {
 public:
-    explicit Private(const PanelSetup &panelSetup)
-        : setup(panelSetup)
-    {
-    }
-    ~Private();
-
-    bool fail(const QString &reason);
-    bool prepare();
-    bool copyPlugins();
-    bool writeSettings();
-    bool startSimulator();
-    bool startSession();
-    bool checkPlugins();
-    bool waitForLinks();
-    bool openProject();
-    bool waitUntilQuiet();
-    void enterStep(const QString &module);
-    QStringList plugins() const;
-    bool waitForFrames(int frames) const;
-
-    const PanelSetup setup;
-    QString problem;
-    QStringList banners;
-    // In the order in which they need each other; none before start().
-    std::unique_ptr<Surroundings> surroundings;
-    std::unique_ptr<QTemporaryDir> directory;
-    std::unique_ptr<SimulatorFixture> simulator;
-    std::unique_ptr<HostState> host;
-    std::unique_ptr<BusWatch> bus;
-    std::unique_ptr<Leftovers> leftovers;
-    std::unique_ptr<panel::PanelSession> session;
-    QObject context; ///< of connections that end with this object
+    using PanelSite::PanelSite;
 };
-
-TestPanel::Private::~Private()
-{
-    if (!surroundings)
-        return;
-    if (session)
-        session->finish();
-    session.reset();
-    oneLives = false;
-}
-
-bool TestPanel::Private::fail(const QString &reason)
-{
-    problem = reason;
-    return false;
-}
-
-bool TestPanel::Private::prepare()
-{
-    if (surroundings)
-        return fail(QStringLiteral("This panel was started before: make another one."));
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
-        return fail(QStringLiteral("There is no QApplication: use QTEST_MAIN()."));
-    if (oneLives)
-        return fail(QStringLiteral("Another panel lives: destroy it first."));
-    const QString missing = missingProgram();
-    if (!missing.isEmpty())
-        return fail(QStringLiteral("%1 is not installed: install the package %1.").arg(missing));
-    const QStringList languages = brisa::LanguageManager::languages();
-    if (!setup.language.isEmpty() && !languages.contains(setup.language))
-        return fail(QStringLiteral("There is no language \"%1\"; there are: %2.")
-                        .arg(setup.language, languages.join(QStringLiteral(", "))));
-    oneLives = true;
-    surroundings = std::make_unique<Surroundings>();
-    // In memory where that can be had: the disk's own sync would take most of the time.
-    const QString memory = QStringLiteral("/dev/shm");
-    const QString place = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
-    directory = std::make_unique<QTemporaryDir>(place + QStringLiteral("/zeplet-test-XXXXXX"));
-    if (!directory->isValid())
-        return fail(QStringLiteral("No directory can be made in %1: %2.")
-                        .arg(place, directory->errorString()));
-    return copyPlugins();
-}
-
-/** Copies, since a library that is open is not opened again: its plugins would not register. */
-bool TestPanel::Private::copyPlugins()
-{
-    const QDir plugins(directory->filePath(QStringLiteral("plugins")));
-    plugins.mkpath(QStringLiteral("."));
-    for (const QString &file : setup.plugins) {
-        if (!QFile::copy(file, plugins.filePath(QFileInfo(file).fileName())))
-            return fail(QStringLiteral("The plugin %1 can't be copied: build it first.").arg(file));
-    }
-    return true;
-}
-
-bool TestPanel::Private::startSimulator()
-{
-    const QByteArray text = setup.scenario.isEmpty() ? QByteArray(readyScenario) : setup.scenario;
-    auto scenario = simulator::Scenario::fromText(text, &problem);
-    if (!scenario)
-        return false;
-    scenario->files = {directory->filePath(QStringLiteral("controller")), 0};
-    simulator = std::make_unique<SimulatorFixture>(*scenario);
-    surroundings->setVariable(
-        "RSYNC_CONNECT_PROG",
-        QStringLiteral("socat - TCP:127.0.0.1:%1").arg(simulator->rsyncPort()).toUtf8());
-    return true;
-}
-
-bool TestPanel::Private::writeSettings()
-{
-    QJsonObject settings {{"server.ip", "127.0.0.1"},
-                          {"server.port", QString::number(simulator->controllerPort())},
-                          {"server.hub_port", QString::number(simulator->hubPort())},
-                          {"workspace", directory->filePath(QStringLiteral("workspace"))}};
-    settings.insert(QStringLiteral("language"),
-                    setup.language.isEmpty() ? QStringLiteral("en") : setup.language);
-    const QByteArray text = QJsonDocument(settings).toJson();
-    QFile file(directory->filePath(QStringLiteral("settings.json")));
-    return (file.open(QIODevice::WriteOnly) && file.write(text) == text.size())
-        || fail(
-               QStringLiteral("%1 can't be written: %2.").arg(file.fileName(), file.errorString()));
-}
-
-bool TestPanel::Private::startSession()
-{
-    host = std::make_unique<HostState>();
-    bus = std::make_unique<BusWatch>();
-    QObject::connect(brisa::ManagerHelper::instance(), &brisa::ManagerHelper::logThrown, &context,
-                     [this](QObject *, const QString &level, const QString &text) {
-                         banners += level + QStringLiteral(": ") + text;
-                     });
-    panel::PanelOptions options;
-    options.pluginDirectories = QStringList {directory->filePath(QStringLiteral("plugins"))};
-    options.runtimeDirectory = directory->filePath(QStringLiteral("run"));
-    options.settingsFile = directory->filePath(QStringLiteral("settings.json"));
-    options.ownPlugins = false;
-    session = std::make_unique<panel::PanelSession>(options);
-    QObject::connect(session.get(), &panel::PanelSession::stepStarted, &context,
-                     [this](const QString &module) { enterStep(module); });
-    QObject::connect(session.get(), &panel::PanelSession::stepFinished, &context,
-                     [this] { bus->setStep(QString()); });
-    return session->start(&problem)
-        && (QTest::qWaitForWindowExposed(&session->window(), startTimeout)
-            || fail(QStringLiteral("The panel's window did not appear.")));
-}
-
-/** The first step is the last moment without a plugin. */
-void TestPanel::Private::enterStep(const QString &module)
-{
-    if (!leftovers)
-        leftovers = std::make_unique<Leftovers>(*bus, *simulator, &session->window());
-    bus->setStep(module);
-}
-
-bool TestPanel::Private::checkPlugins()
-{
-    for (const panel::PluginRecord &record : session->loader().records()) {
-        if (record.state != panel::PluginRecord::Running)
-            return fail(record.sentence);
-    }
-    return true;
-}
-
-bool TestPanel::Private::waitForLinks()
-{
-    const auto isConnected = [] {
-        return brisa::ManagerHelper::instance()->taskNetworkManager()->isConnect()
-            && nexo()->mobj()->getBool(QStringLiteral("connected"), false)
-            && !stored("brisa.r.id").isEmpty();
-    };
-    return QTest::qWaitFor(isConnected, startTimeout)
-        || fail(QStringLiteral("The panel found no link to the simulated controller."));
-}
-
-bool TestPanel::Private::openProject()
-{
-    if (setup.project.isEmpty())
-        return true;
-    const int result = zepletInterface()->createProject(setup.project, QString(), true);
-    if (result != 0)
-        return fail(QStringLiteral("The project \"%1\" can't be made (%2).")
-                        .arg(setup.project, QString::number(result)));
-    const auto isOpen = [this] {
-        return simulator->call([](simulator::Simulator &s) { return s.projects().current(); })
-            == setup.project;
-    };
-    return QTest::qWaitFor(isOpen, startTimeout)
-        || fail(QStringLiteral("The controller did not open the project."));
-}
-
-/** Until the panel has read all that it mirrors: each answer may bring another request, and an
- *  answer comes after all that was sent before it. */
-bool TestPanel::Private::waitUntilQuiet()
-{
-    const QString probe = QStringLiteral("system.state.get");
-    int before = -1;
-    const auto isQuiet = [&] {
-        zepletInterface()->rcExecRequestFullCommand(probe, QJsonValue());
-        QJsonObject counts
-            = simulator->call([](simulator::Simulator &s) { return s.requests().counts(); });
-        counts.remove(probe);
-        int now = 0;
-        for (const QJsonValue &count : qAsConst(counts))
-            now += count.toInt();
-        return now == std::exchange(before, now);
-    };
-    return QTest::qWaitFor(isQuiet, startTimeout)
-        || fail(QStringLiteral("The plugins send requests to the controller without end."));
-}
-
-QStringList TestPanel::Private::plugins() const
-{
-    return session ? session->loader().moduleNames() : QStringList();
-}
-
-bool TestPanel::Private::waitForFrames(int frames) const
-{
-    QObject counter;
-    QObject::connect(&session->runner(), &kest::ModuleRunner::frameFinished, &counter,
-                     [&frames] { --frames; });
-    return QTest::qWaitFor([&frames] { return frames <= 0; }, pageTimeout);
-}
 
 TestPanel::TestPanel(const PanelSetup &setup)
     : d(std::make_unique<Private>(setup))
@@ -315,9 +66,7 @@ TestPanel::~TestPanel() = default;
 
 bool TestPanel::start()
 {
-    const bool done = d->prepare() && d->startSimulator() && d->writeSettings() && d->startSession()
-        && d->checkPlugins() && d->waitForLinks() && d->openProject() && d->waitUntilQuiet()
-        && d->checkPlugins();
+    const bool done = d->start();
     if (d->bus)
         d->bus->clear();
     return done;

@@ -205,7 +205,8 @@ class Coverage(unittest.TestCase):
         known = {name for name in self.operations if "::" not in name}
         self.assertEqual(set(), {name for name in set(exported) - known if re.fullmatch(r"\w+", name)
                                  and not re.search(rf"\b{name}\(", private)})
-        classes = set(re.findall(r"class ZEPLET_EXPORT (\w+)", " ".join(headers.values())))
+        public = " ".join(text for path, text in headers.items() if not path.name.endswith("_p.h"))
+        classes = set(re.findall(r"class ZEPLET_EXPORT (\w+)", public))
         self.assertEqual(classes, owners - {None})
 
     def test_headers_are_understood(self):

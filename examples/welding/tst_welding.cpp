@@ -1,6 +1,7 @@
 #include <brisa/basecontentwidget.h>
 #include <brisa/languagemanager.h>
 #include <brisa/rlmanager.h>
+#include <brisa/thememanager.h>
 #include <zeplet-test/testpanel.h>
 #include <zeplet/zeplet.h>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void wrongValuesAreNamed();
     void chosenTargetIsKept();
     void speaksTheLanguageOfThePanel();
+    void looksAsDesigned_data();
     void looksAsDesigned();
     void detaches();
 
@@ -179,14 +181,26 @@ void TestWelding::speaksTheLanguageOfThePanel()
              QString("Kraterfüllen: erlaubt sind 0 bis 5 s."));
 }
 
+void TestWelding::looksAsDesigned_data()
+{
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("light") << "arclinear.png";
+    QTest::newRow("dark") << "arclinear-dark.png";
+}
+
 void TestWelding::looksAsDesigned()
 {
+    QFETCH(QString, picture);
+    brisa::ThemeManager *const themes = brisa::ThemeManager::instance();
+    const auto restore = qScopeGuard([=] { themes->setTheme(QString("light")); });
+    QVERIFY(themes->setTheme(QString(QTest::currentDataTag())));
+    m_panel.page("welding"); // in its new colours
     const Form form = makeForm("ArcLinear");
     form->FillWith("ArcLinear seam_1, speed=80, weave=0");
     form->resize(480, 300);
     form->show();
     QVERIFY(!form->CheckInsert());
-    const QString difference = comparePicture(form.get(), "arclinear.png");
+    const QString difference = comparePicture(form.get(), picture);
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 

@@ -102,9 +102,7 @@ void LineDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               known ? model->instructions()->description(type) : QString());
     }
     font.setItalic(kind == Kind::Comment);
-    const QColor colour = kind == Kind::Comment ? colours.mutedText
-        : type.isEmpty()                        ? colours.warning
-                                                : colours.text;
+    const QColor colour = kind == Kind::Comment ? colours.mutedText : colours.text;
     drawText(painter, box, text, font, colour, Qt::AlignLeft);
     painter->restore();
 }

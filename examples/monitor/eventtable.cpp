@@ -2,6 +2,7 @@
 
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QJsonDocument>
 #include <QPainter>
@@ -25,7 +26,7 @@ QString EventTable::dataText(const QVariant &data)
 EventTable::EventTable(QWidget *parent)
     : QTableWidget(0, 5, parent)
 {
-    setHorizontalHeaderLabels({tr("Time"), tr("No."), tr("Event"), tr("Source"), tr("Data")});
+    translate();
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -38,6 +39,18 @@ EventTable::EventTable(QWidget *parent)
     setShowGrid(false);
     setAlternatingRowColors(true);
     setFocusPolicy(Qt::NoFocus);
+}
+
+void EventTable::changeEvent(QEvent *event)
+{
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+}
+
+void EventTable::translate()
+{
+    setHorizontalHeaderLabels({tr("Time"), tr("No."), tr("Event"), tr("Source"), tr("Data")});
 }
 
 void EventTable::add(const zeplet::ZepletEvent &event)

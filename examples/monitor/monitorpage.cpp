@@ -4,6 +4,7 @@
 
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,9 +18,9 @@ constexpr int touchHeight = 56; // 9 mm on the panel and more
 constexpr int margin = 24;
 constexpr int spacing = 16;
 
-QPushButton *touchButton(const QString &text, QWidget *parent)
+QPushButton *touchButton(QWidget *parent)
 {
-    auto *button = new QPushButton(text, parent);
+    auto *button = new QPushButton(parent);
     button->setMinimumHeight(touchHeight);
     return button;
 }
@@ -37,6 +38,25 @@ MonitorPage::MonitorPage(const QString &pluginName, QWidget *parent)
     layout->addWidget(createWatchLine());
     layout->addWidget(createChipArea());
     layout->addWidget(m_table, 1);
+    translate();
+}
+
+void MonitorPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    translate();
+    Q_EMIT languageChanged();
+}
+
+void MonitorPage::translate()
+{
+    m_title->setText(tr("Event monitor"));
+    m_fullScreen->setText(tr("Full screen"));
+    m_name->setPlaceholderText(tr("Hub key or notify path, for example demo.temperature"));
+    m_watchHub->setText(tr("Watch hub key"));
+    m_watchNotify->setText(tr("Watch notify path"));
 }
 
 void MonitorPage::show(const zeplet::ZepletEvent &event)
@@ -54,13 +74,13 @@ QWidget *MonitorPage::createHeader()
     auto *header = new QWidget(this);
     auto *layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto *title = new QLabel(tr("Event monitor"), header);
-    title->setProperty("role", "heading");
-    auto *fullScreen = touchButton(tr("Full screen"), header);
-    fullScreen->setCheckable(true);
-    connect(fullScreen, &QPushButton::toggled, this, &MonitorPage::fullScreenRequested);
-    layout->addWidget(title, 1);
-    layout->addWidget(fullScreen);
+    m_title = new QLabel(header);
+    m_title->setProperty("role", "heading");
+    m_fullScreen = touchButton(header);
+    m_fullScreen->setCheckable(true);
+    connect(m_fullScreen, &QPushButton::toggled, this, &MonitorPage::fullScreenRequested);
+    layout->addWidget(m_title, 1);
+    layout->addWidget(m_fullScreen);
     return header;
 }
 
@@ -73,14 +93,14 @@ QWidget *MonitorPage::createWatchLine()
     m_name = new QLineEdit(line);
     m_name->setObjectName(QStringLiteral("watchName"));
     m_name->setMinimumHeight(touchHeight);
-    m_name->setPlaceholderText(tr("Hub key or notify path, for example demo.temperature"));
-    auto *hub = touchButton(tr("Watch hub key"), line);
-    auto *notify = touchButton(tr("Watch notify path"), line);
-    connect(hub, &QPushButton::clicked, this, [this] { startWatch(WatchList::HubKey); });
-    connect(notify, &QPushButton::clicked, this, [this] { startWatch(WatchList::NotifyPath); });
+    m_watchHub = touchButton(line);
+    m_watchNotify = touchButton(line);
+    connect(m_watchHub, &QPushButton::clicked, this, [this] { startWatch(WatchList::HubKey); });
+    connect(m_watchNotify, &QPushButton::clicked, this,
+            [this] { startWatch(WatchList::NotifyPath); });
     layout->addWidget(m_name, 1);
-    layout->addWidget(hub);
-    layout->addWidget(notify);
+    layout->addWidget(m_watchHub);
+    layout->addWidget(m_watchNotify);
     return line;
 }
 
@@ -116,7 +136,8 @@ void MonitorPage::startWatch(WatchList::Kind kind)
 
 void MonitorPage::addChip(WatchList::Kind kind, const QString &name)
 {
-    auto *chip = touchButton(tr("%1  ✕").arg(name), this);
+    auto *chip = touchButton(this);
+    chip->setText(tr("%1  ✕").arg(name));
     chip->setToolTip(tr("Tap to stop watching"));
     connect(chip, &QPushButton::clicked, this, [this, chip, kind, name] {
         m_watches.remove(kind, name);

@@ -8,6 +8,7 @@ class EventTable;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QScrollArea;
 
 namespace zeplet
@@ -28,8 +29,13 @@ public:
 
 Q_SIGNALS:
     void fullScreenRequested(bool full);
+    void languageChanged();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
+    void translate();
     QWidget *createHeader();
     QWidget *createWatchLine();
     QWidget *createChipArea();
@@ -37,6 +43,10 @@ private:
     void addChip(WatchList::Kind kind, const QString &name);
 
     WatchList m_watches;
+    QLabel *m_title = nullptr;
+    QPushButton *m_fullScreen = nullptr;
+    QPushButton *m_watchHub = nullptr;
+    QPushButton *m_watchNotify = nullptr;
     QLineEdit *m_name = nullptr;
     QScrollArea *m_chipArea = nullptr;
     QHBoxLayout *m_chips = nullptr;

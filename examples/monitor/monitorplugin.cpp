@@ -68,18 +68,26 @@ void MonitorPlugin::createUi()
 {
     m_page = new MonitorPage(pluginName);
     connect(m_page, &MonitorPage::fullScreenRequested, this, &MonitorPlugin::changeFullScreen);
+    connect(m_page, &MonitorPage::languageChanged, this, &MonitorPlugin::translate);
     CreateCenterWidget(pluginName, m_page);
 
-    m_status = new QLabel(tr("Events: %1").arg(0));
+    m_status = new QLabel;
     CreateStatusBar(pluginName, m_status, 0);
 
     m_last = new QLabel(tr("The last event appears here."));
-    m_last->setWindowTitle(tr("Last event"));
     m_last->setTextFormat(Qt::PlainText);
     m_last->setWordWrap(true);
     m_last->setMargin(16);
     m_last->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     CreateRightExpandWidgte(pluginName, m_last, QString());
+    translate();
+}
+
+// What was told of the last event stays as it was told.
+void MonitorPlugin::translate()
+{
+    m_status->setText(tr("Events: %1").arg(m_count));
+    m_last->setWindowTitle(tr("Last event"));
 }
 
 // Out of the panel the page no longer inherits the panel's style sheet: it takes it along.
@@ -96,19 +104,20 @@ void MonitorPlugin::changeFullScreen(bool full)
         m_page->setStyleSheet(QString());
 }
 
+// The panel shows the keys in its language: they are given in English.
 void MonitorPlugin::createButtons()
 {
     PhysicalButton pause;
-    pause.text = tr("Pause");
+    pause.text = QT_TRANSLATE_NOOP("navigation", "Pause");
     pause.callback = [this](bool pressed) { m_paused = pressed ? !m_paused : m_paused; };
     PhysicalButton clear;
-    clear.text = tr("Clear");
+    clear.text = QT_TRANSLATE_NOOP("navigation", "Clear");
     clear.callback = [this](bool pressed) {
         if (pressed && m_page)
             m_page->clear();
     };
     PhysicalButton details;
-    details.text = tr("Details");
+    details.text = QT_TRANSLATE_NOOP("navigation", "Details");
     details.callback = [](bool pressed) {
         if (pressed)
             SwitchRightExpandWidgte(pluginName, QString());

@@ -25,6 +25,7 @@ public:
 
 private:
     void createUi();
+    void translate();
     void changeFullScreen(bool full);
     void createButtons();
     void subscribe();

@@ -1,8 +1,9 @@
 // What the robot is and does, its motors and mode, and a question before each start or stop of the
 // operator. Shows the status readers, the switches, startRunning() and stopRunning() with their
-// filters, and subscriptions that end with the page.
+// filters, subscriptions that end with the page, and texts that follow the panel's language.
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
@@ -29,24 +30,30 @@ public:
 
     void init() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
     void createButtons();
-    void addButton(int row, int column, const QString &text, const std::function<bool()> &action);
-    void addFilter(int column, const QString &text, bool (InterfaceManager::*filter)(bool));
+    QPushButton *addText(int row, int column, const char *text);
+    void addButton(int row, int column, const char *text, const std::function<bool()> &action);
+    void addFilter(int column, const char *text, bool (InterfaceManager::*filter)(bool));
     void refresh();
 
     QPointer<QWidget> m_page;
     QFormLayout *m_facts = nullptr;
     QGridLayout *m_buttons = nullptr;
+    QLabel *m_title = nullptr;
     QLabel *m_notice = nullptr;
+    QVector<QPair<QPushButton *, const char *>> m_texts; ///< what is on the buttons, in English
 };
 
 void StatusPlugin::init()
 {
     m_page = new QWidget;
-    auto *title = new QLabel(tr("Robot status"));
-    title->setProperty("role", "heading");
+    m_page->installEventFilter(this);
+    m_title = new QLabel;
+    m_title->setProperty("role", "heading");
     auto *card = new QFrame;
     card->setProperty("role", "card");
     m_facts = new QFormLayout(card);
@@ -57,13 +64,13 @@ void StatusPlugin::init()
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    layout->addWidget(title);
+    layout->addWidget(m_title);
     layout->addWidget(card);
     layout->addLayout(m_buttons);
     layout->addWidget(m_notice);
     layout->addStretch();
     createButtons();
-    refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
 
     // With the page as their context, subscriptions end when it goes.
@@ -71,12 +78,30 @@ void StatusPlugin::init()
                                  RCRunModelChange, RCRunStart, RCRunStop})
         zepletEvent()->subscribe(
             type, [this](auto &) { refresh(); }, pluginName, m_page);
-    const QString question = tr("The operator wants to start. If the cell is clear, tap Start.");
-    zepletEvent()->subscribe(
-        RCBeforeRunStart, [=](auto &) { m_notice->setText(question); }, pluginName, m_page);
-    const QString wish = tr("The operator wants to stop. When the part is finished, tap Stop.");
-    zepletEvent()->subscribe(
-        RCBeforeRunStop, [=](auto &) { m_notice->setText(wish); }, pluginName, m_page);
+    const auto tell = [this](ZepletEventType type, const char *text) {
+        zepletEvent()->subscribe(
+            type, [=](auto &) { m_notice->setText(tr(text)); }, pluginName, m_page);
+    };
+    tell(RCBeforeRunStart,
+         QT_TR_NOOP("The operator wants to start. If the cell is clear, tap Start."));
+    tell(RCBeforeRunStop,
+         QT_TR_NOOP("The operator wants to stop. When the part is finished, tap Stop."));
+}
+
+// The page hears of another language. What the notice says of the past stays.
+bool StatusPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void StatusPlugin::translate()
+{
+    m_title->setText(tr("Robot status"));
+    for (const auto &[button, text] : qAsConst(m_texts))
+        button->setText(tr(text));
+    refresh();
 }
 
 // No start and no stop may wait for the answer of a plugin that is gone.
@@ -86,43 +111,53 @@ void StatusPlugin::detach()
         for (QPushButton *filter : m_page->findChildren<QPushButton *>("filter"))
             filter->setChecked(false);
     }
+    m_texts.clear();
     delete m_page;
 }
 
 void StatusPlugin::createButtons()
 {
     InterfaceManager *const robot = zepletInterface();
-    addButton(0, 0, tr("Motors on"), [=] { return robot->changeRobotPowerStatue(true, false); });
-    addButton(0, 1, tr("Motors off"), [=] { return robot->changeRobotPowerStatue(false, false); });
-    addButton(0, 2, tr("Manual"), [=] { return robot->changeRobotModelStatue(true, false); });
-    addButton(0, 3, tr("Automatic"), [=] { return robot->changeRobotModelStatue(false, false); });
-    addButton(1, 0, tr("Start"), [=] { return robot->startRunning(); });
-    addButton(1, 1, tr("Stop"), [=] { return robot->stopRunning(); });
-    addFilter(2, tr("Ask before a start"), &InterfaceManager::startRunningFilter);
-    addFilter(3, tr("Ask before a stop"), &InterfaceManager::stopRunningFilter);
+    addButton(0, 0, QT_TR_NOOP("Motors on"),
+              [=] { return robot->changeRobotPowerStatue(true, false); });
+    addButton(0, 1, QT_TR_NOOP("Motors off"),
+              [=] { return robot->changeRobotPowerStatue(false, false); });
+    addButton(0, 2, QT_TR_NOOP("Manual"),
+              [=] { return robot->changeRobotModelStatue(true, false); });
+    addButton(0, 3, QT_TR_NOOP("Automatic"),
+              [=] { return robot->changeRobotModelStatue(false, false); });
+    addButton(1, 0, QT_TR_NOOP("Start"), [=] { return robot->startRunning(); });
+    addButton(1, 1, QT_TR_NOOP("Stop"), [=] { return robot->stopRunning(); });
+    addFilter(2, QT_TR_NOOP("Ask before a start"), &InterfaceManager::startRunningFilter);
+    addFilter(3, QT_TR_NOOP("Ask before a stop"), &InterfaceManager::stopRunningFilter);
 }
 
-void StatusPlugin::addFilter(int column, const QString &text,
-                             bool (InterfaceManager::*filter)(bool))
+QPushButton *StatusPlugin::addText(int row, int column, const char *text)
 {
-    auto *button = new QPushButton(text);
+    auto *button = new QPushButton;
+    m_texts.append({button, text});
+    m_buttons->addWidget(button, row, column);
+    return button;
+}
+
+void StatusPlugin::addFilter(int column, const char *text, bool (InterfaceManager::*filter)(bool))
+{
+    QPushButton *const button = addText(1, column, text);
     button->setObjectName("filter");
     button->setCheckable(true);
-    m_buttons->addWidget(button, 1, column);
     connect(button, &QPushButton::toggled, this,
             [=](bool on) { (zepletInterface()->*filter)(on); });
 }
 
 // No action waits: the state tells whether and when the robot did as it was asked.
-void StatusPlugin::addButton(int row, int column, const QString &text,
+void StatusPlugin::addButton(int row, int column, const char *text,
                              const std::function<bool()> &action)
 {
-    auto *button = new QPushButton(text);
-    m_buttons->addWidget(button, row, column);
-    connect(button, &QPushButton::clicked, this, [=] {
-        m_notice->setText(
-            action() ? tr("%1: sent. The state above follows when the robot has done it.").arg(text)
-                     : tr("%1: not sent. Connect the controller, then try again.").arg(text));
+    connect(addText(row, column, text), &QPushButton::clicked, this, [=] {
+        const QString sentence = action()
+            ? tr("%1: sent. The state above follows when the robot has done it.")
+            : tr("%1: not sent. Connect the controller, then try again.");
+        m_notice->setText(sentence.arg(tr(text)));
     });
 }
 

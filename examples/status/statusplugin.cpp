@@ -45,6 +45,7 @@ private:
     QGridLayout *m_buttons = nullptr;
     QLabel *m_title = nullptr;
     QLabel *m_notice = nullptr;
+    const char *m_hint = QT_TR_NOOP("Changes appear here as the controller reports them.");
     QVector<QPair<QPushButton *, const char *>> m_texts; ///< what is on the buttons, in English
 };
 
@@ -60,7 +61,7 @@ void StatusPlugin::init()
     m_facts->setContentsMargins(24, 16, 24, 16);
     m_facts->setHorizontalSpacing(48);
     m_buttons = new QGridLayout;
-    m_notice = new QLabel(tr("Changes appear here as the controller reports them."));
+    m_notice = new QLabel;
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
@@ -80,7 +81,7 @@ void StatusPlugin::init()
             type, [this](auto &) { refresh(); }, pluginName, m_page);
     const auto tell = [this](ZepletEventType type, const char *text) {
         zepletEvent()->subscribe(
-            type, [=](auto &) { m_notice->setText(tr(text)); }, pluginName, m_page);
+            type, [=](auto &) { m_notice->setText(tr(m_hint = text)); }, pluginName, m_page);
     };
     tell(RCBeforeRunStart,
          QT_TR_NOOP("The operator wants to start. If the cell is clear, tap Start."));
@@ -88,7 +89,7 @@ void StatusPlugin::init()
          QT_TR_NOOP("The operator wants to stop. When the part is finished, tap Stop."));
 }
 
-// The page hears of another language. What the notice says of the past stays.
+// The page hears of another language.
 bool StatusPlugin::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -101,6 +102,8 @@ void StatusPlugin::translate()
     m_title->setText(tr("Robot status"));
     for (const auto &[button, text] : qAsConst(m_texts))
         button->setText(tr(text));
+    if (m_hint)
+        m_notice->setText(tr(m_hint));
     refresh();
 }
 
@@ -158,6 +161,7 @@ void StatusPlugin::addButton(int row, int column, const char *text,
             ? tr("%1: sent. The state above follows when the robot has done it.")
             : tr("%1: not sent. Connect the controller, then try again.");
         m_notice->setText(sentence.arg(tr(text)));
+        m_hint = nullptr; // what was said stays as it was said
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLibrary>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <brisa/languagemanager.h>
@@ -33,19 +34,21 @@ simulator::Scenario cell()
     return scenario;
 }
 
-/** What is English in the catalogue of a language, with anything for its placeholders. */
+/** What is English in the catalogues of a language, with anything for its placeholders. */
 QRegularExpression englishOf(const QString &language)
 {
-    QFile file(QStringLiteral(ZEPLET_TRANSLATIONS "/zeplet_%1.ts").arg(language));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
     QStringList sources;
     QStringList translations;
-    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
-        if (xml.isStartElement() && xml.name() == "source")
-            sources += xml.readElementText().trimmed();
-        else if (xml.isStartElement() && xml.name() == "translation")
-            translations += xml.readElementText().trimmed();
+    for (const char *catalogue : {"translations/zeplet", "examples/status/status"}) {
+        QFile file(QStringLiteral(ZEPLET_TREE "/%1_%2.ts").arg(catalogue, language));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+            if (xml.isStartElement() && xml.name() == "source")
+                sources += xml.readElementText().trimmed();
+            else if (xml.isStartElement() && xml.name() == "translation")
+                translations += xml.readElementText().trimmed();
+        }
     }
     static const QRegularExpression placeholder(QStringLiteral("%\\d"));
     static const QRegularExpression word(QStringLiteral("[a-z]{3}"));
@@ -79,6 +82,7 @@ private Q_SLOTS:
         qputenv("RSYNC_CONNECT_PROG",
                 QByteArray("socat - TCP:127.0.0.1:")
                     + QByteArray::number(m_panel.simulator.rsyncPort()));
+        QVERIFY(QFile::copy(ZEPLET_STATUS, m_panel.directory.filePath("status.so")));
         QVERIFY(m_panel.start());
         QTRY_VERIFY(nexo()->mobj()->getBool("connected", false));
         QCOMPARE(zepletInterface()->createProject("cell", "", true), 0);
@@ -199,6 +203,16 @@ private Q_SLOTS:
         QTRY_COMPARE(english("de"), QString());
         const auto *const settings = brisa::ManagerHelper::instance()->settingManager();
         QCOMPARE(settings->getStr("language", ""), QString("de"));
+    }
+
+    void translationsOfALaterLibrary()
+    {
+        QVERIFY(LanguageManager::instance()->setLanguage("de"));
+        QCOMPARE(QCoreApplication::translate("navigation", "Frames"), QString("Frames"));
+        QVERIFY(QLibrary(ZEPLET_FRAMES).load());
+        LanguageManager::instance()->loadLibraries();
+        QCOMPARE(QCoreApplication::translate("navigation", "Frames"),
+                 QString("Koordinatensysteme"));
     }
 
     void languages()

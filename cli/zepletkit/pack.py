@@ -77,7 +77,7 @@ def pack(kit, project, architecture, output):
         remove_earlier(output, package)
         shutil.copy(package, output)
         print(f"{output / package.name}: {', '.join(tag['name'] for tag in tags)} for "
-              f"{architecture.name}, Zeplet {tags[0]['library']}, Qt {tags[0]['qt']}")
+              f"{architecture.name}, Zeplet {tags[0]['library']}, Qt {tags[0]['qt']}", flush=True)
 
 
 def configuration(kit, project, architecture, build):
@@ -124,7 +124,10 @@ def call(what, architecture, command, environment):
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT, check=False)
     if done.returncode != 0:
-        print(done.stdout.rstrip())
+        if "version is missing" in done.stdout:
+            raise Problem("The package needs a version: write project(... VERSION 1.0.0 ...) in "
+                          "CMakeLists.txt.")
+        print(done.stdout.rstrip(), flush=True)
         raise Problem(f"The plugin could not be {what} for {architecture.name}; the lines above "
                       "say why.")
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs a build into an empty prefix and uses it as an author and an integrator do: an example
-# plugin builds alone against it, and the library builds against the installed host.
+# Installs a build into an empty prefix and uses it as an author and an integrator do: a plugin of each
+# template is made and packed, the examples build alone against it, and the library builds against the
+# installed host.
 # Further words go to CMake where a plugin is configured. ZEPLET_EMULATOR starts what was built.
 set -euo pipefail
 build=${1:?usage: install.sh BUILD_DIRECTORY [OPTION ...]}
@@ -11,6 +12,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export CCACHE_BASEDIR=$work CCACHE_NOHASHDIR=1 # each run has another directory
 options=(-G Ninja -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_BUILD_TYPE=Debug
+    -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DBUILD_TESTING=OFF
     -DCMAKE_PREFIX_PATH="$work/prefix" "$@")
 
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
@@ -26,23 +28,57 @@ if [ "$(ls "$work/prefix/lib/zeplet/plugins")" != "$(sed 's/$/.so/' <<<"$example
     exit 1
 fi
 
-# Copies outside the project prove that each needs nothing but the installation. Their tests run in
-# the tree; two show that they do here, too: one with next to nothing, one with all that there is.
-plugins=()
+# Copies outside the project prove that each needs nothing but the installation, which each finds.
+# Their tests run in the tree; two show that they do here, too: one with next to nothing, one with all
+# that there is.
+mkdir "$work/alone"
 for example in $examples; do
-    cp -r "$root/examples/$example" "$work/$example"
-    tested=OFF
-    [[ -n $emulator || ! $example =~ ^(status|welding)$ ]] || tested=ON
-    cmake -S "$work/$example" -B "$work/alone/$example" "${options[@]}" -DBUILD_TESTING=$tested >/dev/null
-    cmake --build "$work/alone/$example"
-    [ $tested = OFF ] || ctest --test-dir "$work/alone/$example" --output-on-failure --no-tests=error
-    plugins+=(--plugins "$work/alone/$example/plugins")
+    cp -r "$root/examples/$example" "$work/alone/$example"
 done
-QT_QPA_PLATFORM=offscreen $emulator "$work/prefix/bin/zeplet-panel" --runtime "$work/run" "${plugins[@]}" \
+cat >"$work/alone/CMakeLists.txt" <<'EOF'
+cmake_minimum_required(VERSION 3.25)
+project(alone LANGUAGES CXX)
+enable_testing()
+file(GLOB examples */CMakeLists.txt)
+foreach(example IN LISTS examples)
+    get_filename_component(directory ${example} DIRECTORY)
+    set(BUILD_TESTING OFF)
+    if(tested AND directory MATCHES "/(status|welding)$")
+        set(BUILD_TESTING ON)
+    endif()
+    add_subdirectory(${directory})
+endforeach()
+EOF
+tested=$([ -z "$emulator" ] && echo ON || echo OFF)
+cmake -S "$work/alone" -B "$work/alone/build" "${options[@]}" -Dtested="$tested" >/dev/null
+cmake --build "$work/alone/build"
+[ "$tested" = OFF ] || ctest --test-dir "$work/alone/build" --output-on-failure --no-tests=error
+export QT_QPA_PLATFORM=offscreen
+$emulator "$work/prefix/bin/zeplet-panel" --runtime "$work/run" --plugins "$work/alone/build/plugins" \
     --for 0.5
 for example in $examples; do
     grep "'$example' init" "$work"/run/log/zeplet_*.log
 done
+
+# A plugin of each template is packed, and the panel loads it from what its package holds.
+pack_template() {
+    cd "$work" && zeplet new "new-$1" --template "$1" && cd "new-$1" &&
+        zeplet pack --arch "$(dpkg --print-architecture)" &&
+        dpkg-deb -x build/packages/*.deb "$work/packed"
+}
+if [ -z "$emulator" ]; then
+    (
+        export PATH=$work/prefix/bin:$PATH CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        for template in page instruction background; do
+            pack_template "$template" >"$work/new-$template.txt" 2>&1 ||
+                { cat "$work/new-$template.txt"; exit 1; }
+        done
+        zeplet list --plugins "$work"/packed/usr/lib/*/zeplet/plugins | tee "$work/list.txt"
+        for template in page instruction background; do
+            grep -q "^new-$template .*running" "$work/list.txt"
+        done
+    )
+fi
 
 # A name that a panel would refuse is refused when the plugin is configured.
 mkdir "$work/named"
@@ -72,7 +108,7 @@ fi
 # What the two builds made must load with every symbol resolved; ldd only knows this machine's kind.
 [ -z "$emulator" ] || exit 0
 export LD_LIBRARY_PATH=$work/prefix/lib
-for library in $(find "$work/alone" "$work/library" -name '*.so'); do
+for library in $(find "$work/alone/build" "$work/library" -name '*.so'); do
     echo "checking $library"
     if ldd -r "$library" | grep -E 'not found|undefined symbol'; then
         exit 1

@@ -164,7 +164,7 @@ QString WeldForm::problem(QWidget **field) const
 {
     for (int i = 0; i < m_values.size(); ++i) {
         *field = m_values.at(i);
-        const QString text = numberProblem(i);
+        QString text = numberProblem(i);
         if (!text.isEmpty())
             return text;
     }

@@ -76,7 +76,7 @@ function(zeplet_register_test name)
         set(ARG_TIMEOUT 60)
     endif()
     if(CMAKE_CROSSCOMPILING) # an emulator is slow
-        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 5")
+        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
     endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND} WORKING_DIRECTORY ${directory})
     set_tests_properties(${name} PROPERTIES

@@ -14,7 +14,6 @@
 namespace kit
 {
 
-using brisa::ThemeManager;
 namespace metrics = brisa::metrics;
 
 namespace

@@ -37,7 +37,7 @@ QString InstructionBox::make(const brisa::RlManager::WidgetMaker &maker)
 {
     delete takeWidget();
     brisa::BaseContentWidget *made = nullptr;
-    const QString fault = faultOf([&] { made = maker(viewport()); });
+    QString fault = faultOf([&] { made = maker(viewport()); });
     if (!fault.isEmpty())
         return fault;
     if (!made)

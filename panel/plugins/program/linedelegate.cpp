@@ -10,7 +10,6 @@
 
 using brisa::ThemeManager;
 using programtext::Kind;
-namespace metrics = brisa::metrics;
 
 namespace
 {

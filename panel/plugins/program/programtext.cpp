@@ -109,8 +109,8 @@ QStringList given(const QString &text, QString *refusal)
     plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     while (plain.endsWith(QLatin1Char('\n')))
         plain.chop(1);
-    const QStringList lines = plain.split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
+    QStringList lines = plain.split(QLatin1Char('\n'));
+    for (const QString &line : qAsConst(lines)) {
         if (line.size() > LongestLine)
             *refusal = Texts::tr("A line has at most %1 characters: shorten it.").arg(LongestLine);
         else if (std::any_of(line.begin(), line.end(), isControl))

@@ -13,6 +13,8 @@ using zeplet::test::comparePicture;
 using zeplet::test::PanelSetup;
 using zeplet::test::TestPanel;
 
+Q_DECLARE_METATYPE(zeplet::test::PanelSetup)
+
 #define START(panel) QVERIFY2(panel.start(), qPrintable(panel.problem()))
 #define DONE(call) QVERIFY2(call, qPrintable(panel.problem()))
 
@@ -193,8 +195,6 @@ private:
 
     QTemporaryDir m_directory;
 };
-
-Q_DECLARE_METATYPE(zeplet::test::PanelSetup)
 
 QTEST_MAIN(TestTestPanel)
 

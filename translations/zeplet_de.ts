@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>They come with plugins. &quot;Write a line&quot; takes any text.</source>
-        <translation>Sie kommen mit Plugins. &quot;Zeile schreiben&quot; nimmt jeden Text.</translation>
+        <translation>Sie kommen mit Plugins. „Zeile schreiben“ nimmt jeden Text.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -83,11 +83,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be inserted: its plugin gave neither a widget nor a text. Write the line instead.</source>
-        <translation>&quot;%1&quot; kann nicht eingefügt werden: das Plugin gab weder Eingabefeld noch Text. Stattdessen die Zeile schreiben.</translation>
+        <translation>„%1“ kann nicht eingefügt werden: das Plugin gab weder Eingabefeld noch Text. Stattdessen die Zeile schreiben.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be inserted: %2. Write the line instead.</source>
-        <translation>&quot;%1&quot; kann nicht eingefügt werden: %2. Stattdessen die Zeile schreiben.</translation>
+        <translation>„%1“ kann nicht eingefügt werden: %2. Stattdessen die Zeile schreiben.</translation>
     </message>
     <message>
         <source>It can&apos;t be inserted yet: correct what is entered.</source>
@@ -121,11 +121,11 @@
     </message>
     <message>
         <source>it takes too long on the line &quot;%1&quot;</source>
-        <translation>es braucht zu lange für die Zeile &quot;%1&quot;</translation>
+        <translation>es braucht zu lange für die Zeile „%1“</translation>
     </message>
     <message>
         <source>Lines with &quot;%1&quot; are not recognised, since its pattern can&apos;t be used: %2. Its plugin has to be corrected.</source>
-        <translation>Zeilen mit &quot;%1&quot; werden nicht erkannt, weil ihr Muster unbrauchbar ist: %2. Das Plugin muss berichtigt werden.</translation>
+        <translation>Zeilen mit „%1“ werden nicht erkannt, weil ihr Muster unbrauchbar ist: %2. Das Plugin muss berichtigt werden.</translation>
     </message>
     <message>
         <source>Other types with such a pattern: %1.</source>
@@ -508,7 +508,7 @@
     </message>
     <message>
         <source>Open one on the page &quot;Projects&quot;.</source>
-        <translation>Auf der Seite &quot;Projekte&quot; eines öffnen.</translation>
+        <translation>Auf der Seite „Projekte“ eines öffnen.</translation>
     </message>
     <message>
         <source>No programs yet</source>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>&quot;New program&quot; makes the first one of this project.</source>
-        <translation>&quot;Neues Programm&quot; legt das erste dieses Projekts an.</translation>
+        <translation>„Neues Programm“ legt das erste dieses Projekts an.</translation>
     </message>
     <message>
         <source>It can&apos;t be shown</source>
@@ -528,7 +528,7 @@
     </message>
     <message>
         <source>&quot;Insert&quot; makes its first line.</source>
-        <translation>&quot;Einfügen&quot; macht die erste Zeile.</translation>
+        <translation>„Einfügen“ macht die erste Zeile.</translation>
     </message>
     <message>
         <source>No link to the controller</source>
@@ -536,15 +536,15 @@
     </message>
     <message>
         <source>Same text on the controller</source>
-        <translation>Gleicher Text auf der Steuerung</translation>
+        <translation>Gleicher Text in der Steuerung</translation>
     </message>
     <message>
         <source>Other text on the controller</source>
-        <translation>Anderer Text auf der Steuerung</translation>
+        <translation>Anderer Text in der Steuerung</translation>
     </message>
     <message>
         <source>Not on the controller yet</source>
-        <translation>Noch nicht auf der Steuerung</translation>
+        <translation>Noch nicht in der Steuerung</translation>
     </message>
     <message>
         <source>A program has at most 1 MiB, and nothing was changed: divide it.</source>
@@ -552,11 +552,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; was changed elsewhere meanwhile, and your change was not made: look at it, and change it again.</source>
-        <translation>&quot;%1&quot; wurde inzwischen anderswo geändert, und die eigene Änderung unterblieb: ansehen und erneut ändern.</translation>
+        <translation>„%1“ wurde inzwischen anderswo geändert, und die eigene Änderung unterblieb: ansehen und erneut ändern.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be saved, and your change was not made: check the space on the panel&apos;s disk, and try again.</source>
-        <translation>&quot;%1&quot; konnte nicht gespeichert werden, und die Änderung unterblieb: den Platz auf der Platte des Bedienpanels prüfen und erneut versuchen.</translation>
+        <translation>„%1“ konnte nicht gespeichert werden, und die Änderung unterblieb: den Platz auf dem Datenträger des Bedienpanels prüfen und erneut versuchen.</translation>
     </message>
     <message>
         <source>Another program or line is shown meanwhile, and nothing was changed: choose the line, and try again.</source>
@@ -572,11 +572,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk, and that its project is still open.</source>
-        <translation>&quot;%1&quot; konnte nicht angelegt werden: prüfen, ob auf der Platte des Bedienpanels Platz und das Projekt noch geöffnet ist.</translation>
+        <translation>„%1“ konnte nicht angelegt werden: prüfen, ob auf dem Datenträger des Bedienpanels Platz und das Projekt noch geöffnet ist.</translation>
     </message>
     <message>
         <source>Delete the program &quot;%1&quot;?</source>
-        <translation>Das Programm &quot;%1&quot; löschen?</translation>
+        <translation>Das Programm „%1“ löschen?</translation>
     </message>
     <message>
         <source>Its text on this panel is lost. What was sent to the controller stays there.</source>
@@ -588,27 +588,27 @@
     </message>
     <message>
         <source>&quot;%1&quot; is deleted on this panel.</source>
-        <translation>&quot;%1&quot; ist auf diesem Bedienpanel gelöscht.</translation>
+        <translation>„%1“ ist auf diesem Bedienpanel gelöscht.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be deleted, and stays: check the panel&apos;s disk.</source>
-        <translation>&quot;%1&quot; konnte nicht gelöscht werden und bleibt: die Platte des Bedienpanels prüfen.</translation>
+        <translation>„%1“ konnte nicht gelöscht werden und bleibt: den Datenträger des Bedienpanels prüfen.</translation>
     </message>
     <message>
         <source>Sending &quot;%1&quot;</source>
-        <translation>&quot;%1&quot; wird gesendet</translation>
+        <translation>„%1“ wird gesendet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not sent: the link is lost, or a program runs. Send it again later.</source>
-        <translation>&quot;%1&quot; wurde nicht gesendet: die Verbindung fehlt, oder ein Programm läuft. Später erneut senden.</translation>
+        <translation>„%1“ wurde nicht gesendet: die Verbindung fehlt, oder ein Programm läuft. Später erneut senden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is on the controller.</source>
-        <translation>&quot;%1&quot; ist auf der Steuerung.</translation>
+        <translation>„%1“ ist in der Steuerung.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is saved on this panel, but could not be sent: check the network to the controller, then send it again.</source>
-        <translation>&quot;%1&quot; ist auf diesem Bedienpanel gespeichert, konnte aber nicht gesendet werden: das Netz zur Steuerung prüfen, dann erneut senden.</translation>
+        <translation>„%1“ ist auf diesem Bedienpanel gespeichert, konnte aber nicht gesendet werden: das Netz zur Steuerung prüfen, dann erneut senden.</translation>
     </message>
     <message>
         <source>Write a line</source>
@@ -616,7 +616,7 @@
     </message>
     <message>
         <source>The properties of &quot;%1&quot; can&apos;t be shown: %2. Its text can be edited.</source>
-        <translation>Die Eigenschaften von &quot;%1&quot; können nicht gezeigt werden: %2. Der Text kann geändert werden.</translation>
+        <translation>Die Eigenschaften von „%1“ können nicht gezeigt werden: %2. Der Text kann geändert werden.</translation>
     </message>
     <message>
         <source>The line is longer than %1 characters, and can&apos;t be edited here: it can be deleted, and written anew.</source>
@@ -2055,7 +2055,7 @@
     </message>
     <message>
         <source>its plugin failed with &quot;%1&quot;</source>
-        <translation>das Plugin scheiterte mit &quot;%1&quot;</translation>
+        <translation>das Plugin scheiterte mit „%1“</translation>
     </message>
     <message>
         <source>its plugin failed without saying why</source>
@@ -2091,7 +2091,7 @@
     </message>
     <message>
         <source>There is a program &quot;%1&quot; already: choose another name.</source>
-        <translation>Es gibt schon ein Programm &quot;%1&quot;: einen anderen Namen wählen.</translation>
+        <translation>Es gibt schon ein Programm „%1“: einen anderen Namen wählen.</translation>
     </message>
     <message>
         <source>it is no text in UTF-8</source>
@@ -2099,7 +2099,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be shown: %2. The file stays as it is; put a text file in its place, or choose another program.</source>
-        <translation>&quot;%1&quot; kann nicht gezeigt werden: %2. Die Datei bleibt, wie sie ist; eine Textdatei an ihre Stelle legen oder ein anderes Programm wählen.</translation>
+        <translation>„%1“ kann nicht gezeigt werden: %2. Die Datei bleibt, wie sie ist; eine Textdatei an ihre Stelle legen oder ein anderes Programm wählen.</translation>
     </message>
     <message>
         <source>A line has at most %1 characters: shorten it.</source>

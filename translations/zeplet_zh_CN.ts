@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>They come with plugins. &quot;Write a line&quot; takes any text.</source>
-        <translation>指令由插件提供。&quot;手写一行&quot;可输入任意文本。</translation>
+        <translation>指令由插件提供。“手写一行”可输入任意文本。</translation>
     </message>
     <message>
         <source>Continue</source>

@@ -3,6 +3,7 @@
 #include "shownwords.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLibrary>
 #include <QRegularExpression>
@@ -91,6 +92,9 @@ private Q_SLOTS:
         QVERIFY(zepletInterface()->addVarData("count", 3, true));
         QVERIFY(zepletInterface()->addVarData("ready", false, false));
         QVERIFY(zepletInterface()->addVarData("speed", 0.5, false));
+        const QString project = m_panel.workspace() + "/SIM-0001/cell";
+        QVERIFY(QDir(project).mkpath("program"));
+        pluginfiles::write(project + "/program", "main.prog", "MoveL P1\n\nWait 1\n");
     }
 
     void init() { QVERIFY(LanguageManager::instance()->setLanguage("en")); }
@@ -142,7 +146,10 @@ private Q_SLOTS:
                                    {"projects", "", "newProject"},
                                    {"program", "", "newProgram"},
                                    {"projects", "cell", "removeProject"},
-                                   {"signals", "", "simulateInputs"}};
+                                   {"signals", "", "simulateInputs"},
+                                   {"program", "", "newProgram"},
+                                   {"program", "", "deleteProgram"},
+                                   {"program", "", "insertLine"}};
         for (const QStringList &form : forms)
             QTest::newRow(qPrintable(form.join('-'))) << form[0] << form[1] << form[2];
     }

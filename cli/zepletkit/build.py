@@ -1,6 +1,7 @@
 """Builds the plugin in this directory, and its tests, into build/."""
 
 import os
+import re
 import shutil
 import subprocess
 
@@ -10,8 +11,10 @@ from .project import Project
 
 # What a message of CMake means for an author.
 MISSING = {
-    'provided by "Qt5': "Qt's headers are missing: install the package qtbase5-dev.",
-    'provided by "Zeplet': "The library's headers are missing: install the package libzeplet-dev.",
+    'provided by "Qt5(Core|Gui|Widgets)?"': "Qt's headers are missing: install the package "
+                                            "qtbase5-dev.",
+    'provided by "Zeplet(Host)?"': "The library's headers are missing: install the package "
+                                   "libzeplet-dev.",
     "No CMAKE_CXX_COMPILER could be found": "A C++ compiler is missing: install the package g++.",
 }
 PROGRAMS = {"cmake": "cmake", "ninja": "ninja-build"}
@@ -78,7 +81,7 @@ def check_tools():
 
 def explain(output):
     for message, sentence in MISSING.items():
-        if message in output:
+        if re.search(message, output):
             raise Problem(sentence)
     print(output)
     raise Problem("The project can't be configured: CMake's messages above say why.")

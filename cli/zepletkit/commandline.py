@@ -4,6 +4,7 @@ import argparse
 import difflib
 import importlib
 import importlib.util
+import os
 import signal
 import sys
 
@@ -55,6 +56,10 @@ def guarded(function):
     signal.signal(signal.SIGTTIN, signal.SIG_IGN)  # in the background nobody types
     try:
         code = function()
+        sys.stdout.flush()
+    except BrokenPipeError:  # whoever read our lines has seen enough
+        os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
+        return 1
     except Problem as problem:
         print(f"zeplet: {problem}", file=sys.stderr)
         return problem.code

@@ -3,6 +3,7 @@
 import json
 import os
 import select
+import shutil
 import sys
 from pathlib import Path
 
@@ -115,6 +116,9 @@ class Session:
         # is led there.
         port = self.simulator.rsync_port
         if port != USUAL_RSYNC_PORT:
+            if not shutil.which("socat"):
+                raise Problem("socat is missing, without which no file reaches the simulator: "
+                              "install the package socat.")
             environment["RSYNC_CONNECT_PROG"] = f"socat - TCP:127.0.0.1:{port}"
         return environment
 

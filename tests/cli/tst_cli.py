@@ -230,12 +230,15 @@ class Tour(unittest.TestCase):
         self.assertGreater(colours(PROJECT / "b.png").get(GREEN, 0), 100_000)
 
     def test_4_crash_and_death(self):
+        page = PROJECT / ".zeplet/page"
         self.source_with("    if (m_motors->text().isEmpty()) std::abort();\n")
         run = self.start()
         run.wait_for("The panel died of SIGABRT. It starts again when you save.")
+        page.write_text("zeplet.page-run\n", encoding="utf-8")  # as if the author had gone there
         self.source_with("")
         run.wait_for("The panel runs what you saved.")
         run.wait_until_connected()
+        self.assertEqual(page.read_text(encoding="utf-8"), "zeplet.page-run\n")
         self.assertEqual(run.end(signal.SIGKILL), -signal.SIGKILL)  # tearDown: nobody is left
 
     def test_5_state(self):

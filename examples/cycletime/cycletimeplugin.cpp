@@ -163,7 +163,7 @@ void CycleTimePlugin::stop()
     m_changed = true;
     m_time->setText(seconds(cycle));
     m_notice->setText(tr("The last cycle took %1.").arg(seconds(cycle)));
-    if (cycle > m_limit->value() * 1000)
+    if (cycle > m_limit->value() * 1000LL)
         ThrowLog(pluginName, ThrowLogWarning,
                  tr("The cycle took %1: see what holds it up.").arg(seconds(cycle)));
 }

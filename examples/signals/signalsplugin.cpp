@@ -156,7 +156,7 @@ void SignalsPage::showRegisters()
 {
     const QHash<QString, QStringList> registers = zepletInterface()->getRegisterHash();
     m_registers->setRowCount(0);
-    for (const QJsonValue &each : zepletInterface()->getRegisterValue().toArray()) {
+    for (const QJsonValue each : zepletInterface()->getRegisterValue().toArray()) {
         const QString name = each["name"].toString();
         addRow(m_registers, name, registers.value(name).join(QStringLiteral(", ")));
     }

@@ -34,6 +34,7 @@ WeldForm::WeldForm(const WeldInstruction &instruction, QWidget *parent)
 {
     auto *layout = new QFormLayout(this);
     layout->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    layout->setContentsMargins(0, 0, 0, 0); // the dialog around it has its own
     layout->setVerticalSpacing(12);
     layout->setHorizontalSpacing(24);
     createFields(layout);

@@ -134,7 +134,9 @@ QString LanguageManager::language() const
 
 QLocale LanguageManager::locale() const
 {
-    return QLocale(m_language);
+    // English is read in all countries: day before month, as nearly all of them write it.
+    return m_language == english() ? QLocale(QLocale::English, QLocale::UnitedKingdom)
+                                   : QLocale(m_language);
 }
 
 bool LanguageManager::setLanguage(const QString &code)

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <brisa/languagemanager.h>
 #include <zeplet/interface/interfacemanager.h>
 
 namespace
@@ -52,8 +53,7 @@ QVector<Project> readProjects()
                          record.value(QLatin1String("create_time")).toString(),
                          open == QString(robotDirectory() + '/' + name), autoload == name});
     }
-    const QLocale locale; // without a language there is no order but that of the bytes
-    QCollator order(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+    QCollator order(brisa::LanguageManager::instance()->locale());
     order.setNumericMode(true);
     std::sort(projects.begin(), projects.end(), [&](const Project &a, const Project &b) {
         return order.compare(a.name, b.name) < 0;

@@ -5,9 +5,11 @@
 #include "refusals.h"
 
 #include <QCheckBox>
+#include <QDateTime>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <brisa/languagemanager.h>
 #include <zeplet/interface/interfacemanager.h>
 
 using kit::Mark;
@@ -20,6 +22,15 @@ namespace
 constexpr int MarksWidth = 220;
 constexpr int CreatedWidth = 200;
 
+/** A time of a project's file as the operator writes one; another text stays as it is. */
+QString timeText(const QString &written)
+{
+    const QDateTime time = QDateTime::fromString(written, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return time.isValid()
+        ? brisa::LanguageManager::instance()->locale().toString(time, QLocale::ShortFormat)
+        : written;
+}
+
 kit::Row rowOf(const Project &project)
 {
     kit::Cell name;
@@ -31,7 +42,7 @@ kit::Row rowOf(const Project &project)
     if (project.autoload)
         state.marks.append(Mark {ProjectsPage::tr("Loads at start"), Tone::Accent});
     kit::Cell created;
-    created.text = project.created;
+    created.text = timeText(project.created);
     created.tone = Tone::Muted;
     return {project.name, {name, state, created}};
 }

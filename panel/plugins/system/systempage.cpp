@@ -108,7 +108,7 @@ SystemPage::SystemPage(QWidget *parent)
     column->addLayout(header);
     column->addLayout(cards);
     column->addWidget(scroll, 1);
-    brisa::translated(this, [this] { forgetPlugins(); });
+    brisa::translated(this, [this] { sayAgain(); });
 }
 
 QWidget *SystemPage::makeCard(const kit::Text &title, QGridLayout **grid)
@@ -176,10 +176,12 @@ void SystemPage::refreshPlugins()
     }
 }
 
-void SystemPage::forgetPlugins()
+void SystemPage::sayAgain()
 {
     m_shown = QJsonArray();
     clearRows();
+    if (isVisible())
+        refresh();
 }
 
 // A row may be in its button's click.

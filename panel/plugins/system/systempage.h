@@ -30,7 +30,7 @@ private:
     QWidget *makeStatistics();
     void refreshStatistics();
     void refreshPlugins();
-    void forgetPlugins();
+    void sayAgain();
     void clearRows();
 
     QVBoxLayout *m_rows;

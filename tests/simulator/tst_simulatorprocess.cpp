@@ -9,6 +9,8 @@
 
 namespace
 {
+constexpr int patience = 60000; // a start takes seconds under an emulator. ms
+
 /** A running simulator; the test fails in ready() where it did not start. */
 class Running
 {
@@ -36,7 +38,7 @@ public:
     /** The next line of its standard output; "" where none comes. */
     QString line()
     {
-        if (!QTest::qWaitFor([this] { return process.canReadLine(); }))
+        if (!QTest::qWaitFor([this] { return process.canReadLine(); }, patience))
             return {};
         return QString::fromUtf8(process.readLine()).trimmed();
     }
@@ -48,7 +50,7 @@ public:
     }
     bool finished()
     {
-        return QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })
+        return QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; }, patience)
             && process.exitStatus() == QProcess::NormalExit;
     }
 

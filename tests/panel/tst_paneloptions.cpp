@@ -27,6 +27,8 @@ private Q_SLOTS:
                                     "p.png",
                                     "--page",
                                     "zeplet.monitor",
+                                    "--language",
+                                    "zh_CN",
                                     "--fullscreen",
                                     "--resume",
                                     "--list",
@@ -42,6 +44,7 @@ private Q_SLOTS:
         QCOMPARE(options->milliseconds, std::optional<int>(1500));
         QCOMPARE(options->screenshotFile, here.absoluteFilePath("p.png"));
         QCOMPARE(options->page, QStringLiteral("zeplet.monitor"));
+        QCOMPARE(options->language, QStringLiteral("zh_CN"));
         QCOMPARE(options->retries, QStringList({"x", "y"}));
         QVERIFY(options->fullScreen && options->list && options->resume);
     }
@@ -65,6 +68,7 @@ private Q_SLOTS:
                     {{"--version"}, 0, "zeplet-panel "},
                     {{"--pluginz"}, 2, "pluginz"},
                     {{"--plugins"}, 2, "plugins"},
+                    {{"--language", "tlh"}, 2, "zh_CN, not \"tlh\""},
                     {{"word"}, 2, "\"word\""}};
         for (const auto &[arguments, code, text] : rows) {
             QVERIFY(!parse(arguments));

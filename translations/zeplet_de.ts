@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>Send to the controller</source>
-        <translation>An die Steuerung senden</translation>
+        <translation>An Steuerung senden</translation>
     </message>
     <message>
         <source>Insert</source>
@@ -468,11 +468,11 @@
     </message>
     <message>
         <source>Properties</source>
-        <translation>Eigenschaften</translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>Edit text</source>
-        <translation>Text ändern</translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Move the line up</source>

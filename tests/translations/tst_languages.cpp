@@ -7,9 +7,15 @@
 #include <QFile>
 #include <QLibrary>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <brisa/languagemanager.h>
+#include <brisa/physicalbutton.h>
 #include <brisa/settingmanager.h>
+#include <kest/bmodule.h>
+#include <kest/expandsidebar.h>
+#include <kivra/navigation.h>
 #include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
 #include <zeplet/interface/interfacemanager.h>
@@ -186,6 +192,32 @@ private Q_SLOTS:
         QTRY_COMPARE(m("brisa.r.state")->getStr(""), QString("idle"));
     }
 
+    // Beside the side bar no page is pushed out of sight, and with keys as well, which leaves the
+    // least room, the panel stays as large as its screen.
+    void besideASideBarAndKeys()
+    {
+        const QStringList pages {"page-points",  "page-program",   "page-projects", "page-run",
+                                 "page-signals", "page-variables", "zeplet"};
+        kest::BModule module;
+        auto *const bar = m_panel.window().findChild<kest::ExpandSideBar *>();
+        QVERIFY(bar->addPage(&module, "side", new QLabel("side")));
+        bar->show();
+        for (const bool withKeys : {false, true}) {
+            for (const QString &language : foreign) {
+                QVERIFY(LanguageManager::instance()->setLanguage(language));
+                for (const QString &page : pages) {
+                    QVERIFY(m_panel.show("zeplet." + page));
+                    savePicture("narrow-" + page + '-' + language);
+                    QCOMPARE(widgetchecks::faults(&m_panel.window()).join('\n'), QString());
+                    QCOMPARE(m_panel.window().size(), QSize(1280, 800));
+                    QVERIFY2(withKeys || !isScrolledSideways(), qPrintable(page + language));
+                }
+            }
+            qo::kivra::registerPhysicalButtons(&module, "keys", {{"A", {}, {}, {}}}, {}, {});
+        }
+        bar->hide();
+    }
+
     void offline()
     {
         m_panel.simulator.control("fault controller_down");
@@ -260,6 +292,14 @@ private:
                 QCOMPARE(faults(), QString());
             }
         }
+    }
+
+    static bool isScrolledSideways()
+    {
+        const auto areas = instantiatedCenterWidget()->findChildren<QScrollArea *>();
+        return std::any_of(areas.begin(), areas.end(), [](const QScrollArea *area) {
+            return area->isVisible() && area->horizontalScrollBar()->maximum() > 0;
+        });
     }
 
     QString english(const QString &language) const

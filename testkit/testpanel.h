@@ -31,6 +31,7 @@ namespace test
 class ZEPLET_TEST_EXPORT TestPanel
 {
 public:
+    /** Starts nothing yet. */
     explicit TestPanel(const PanelSetup &setup = {});
     /** Ends the panel as a person would, then takes back what plugins left in this process. */
     ~TestPanel();
@@ -85,11 +86,13 @@ public:
      *  (how many requests; 0: until cleared), "ms" (delay or duration), "answer" (a wrong one).
      * While faults are about, warnings of the panel's own log do not fail the test. */
     bool injectFault(const QString &fault, const QString &command, const QJsonObject &more = {});
+    /** Ends all faults. */
     void clearFaults();
 
-    /** The path of a file in the open project's directory on the panel, and in its directory on the
-     *  controller; empty where no project is open. */
+    /** The path of a file in the open project's directory on the panel; empty where none is open.
+     */
     QString panelFile(const QString &name) const;
+    /** The same in the project's directory on the controller. */
     QString controllerFile(const QString &name) const;
 
     /** Detaches the plugin and destroys its module as the panel does in the end. What it left

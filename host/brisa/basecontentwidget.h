@@ -19,6 +19,7 @@ class HOST_EXPORT BaseContentWidget : public QWidget
     Q_OBJECT
 
 public:
+    /** Belongs to the parent, if there is one; the editor gives it one. */
     explicit BaseContentWidget(QWidget *parent = nullptr);
     ~BaseContentWidget() override;
 

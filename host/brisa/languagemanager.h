@@ -22,6 +22,7 @@ class HOST_EXPORT LanguageManager : public QObject
     Q_OBJECT
 
 public:
+    /** English at first. Belongs to the parent, if there is one. */
     explicit LanguageManager(QObject *parent = nullptr);
     ~LanguageManager() override;
 
@@ -33,6 +34,7 @@ public:
     /** The language's name in itself: "Deutsch". */
     static QString languageName(const QString &code);
 
+    /** The code of the language. */
     QString language() const;
     /** For numbers and dates that a person reads, and for nothing else. */
     QLocale locale() const;

@@ -22,11 +22,15 @@ class HOST_EXPORT ManagerHelper : public QObject
     Q_OBJECT
 
 public:
+    /** The one object; never null. */
     static ManagerHelper *instance();
     ~ManagerHelper() override;
 
+    /** The requests to the controller; never null. */
     ControllerManager *controllerManager() const;
+    /** The host's settings; never null. */
     SettingManager *settingManager() const;
+    /** The state of both links; never null. */
     TaskNetworkManager *taskNetworkManager() const;
     /** The process-wide theme manager; never null. */
     ThemeManager *themeManager() const;
@@ -54,9 +58,11 @@ public:
 
     /** The host is up: its settings are read and its UI stands. */
     bool isReady() const;
+    /** For the panel, when it is up and before it goes. */
     void setReady(bool ready);
 
 Q_SIGNALS:
+    /** throwLog() was called; on the GUI thread. */
     void logThrown(QObject *sender, const QString &level, const QString &message);
 
 private:

@@ -22,6 +22,7 @@ class HOST_EXPORT SettingManager : public QObject
     Q_OBJECT
 
 public:
+    /** Holds the host's defaults. Belongs to the parent, if there is one. */
     explicit SettingManager(QObject *parent = nullptr);
 
     /**
@@ -31,14 +32,16 @@ public:
      */
     bool load(const QString &path);
 
+    /** Whether the setting has a value, be it the host's default. */
     bool contains(const QString &key) const;
     /** A text; a number or a bool in its JSON spelling. Where the setting is missing
-     * or anything else: the host's
-     * own default if it has one, else defaultValue. */
+     *  or anything else: the host's own default if it has one, else defaultValue. */
     QString getStr(const QString &key, const QString &defaultValue) const;
     /** As getStr(); a text that spells a number counts. Anything else gives the default. */
     int getInt(const QString &key, int defaultValue) const;
+    /** As getInt(), for any number. */
     double getDouble(const QString &key, double defaultValue) const;
+    /** As getInt(), for a bool. */
     bool getBool(const QString &key, bool defaultValue) const;
 
     /** Changes a setting and saves it; what a person changed in the file meanwhile stays. False,

@@ -14,16 +14,17 @@ namespace brisa
 /** Lengths in device independent pixels on a grid of 8. */
 namespace metrics
 {
-constexpr int Grid = 8;
+constexpr int Grid = 8; ///< what distances are multiples of
 constexpr int Margin = 16; ///< between a surface's edge and its content
 constexpr int Touch = 56; ///< what a finger hits; 9 mm on a 10.1 inch screen of 1280 x 800 are 53
-constexpr int Radius = 6;
-constexpr int Icon = 24;
+constexpr int Radius = 6; ///< of a surface's corners
+constexpr int Icon = 24; ///< a glyph's side
 } // namespace metrics
 
 /** The five sizes of type, in pixels. */
 enum class TextSize { Caption = 13, Body = 15, Title = 18, Heading = 24, Display = 30 };
 
+/** The looks that an operator chooses from. */
 enum class Theme { Light, Dark };
 
 /** One accent, neutral surfaces, and three colours that mean something. */
@@ -31,16 +32,19 @@ struct ThemeColours {
     QColor window; ///< behind the surfaces
     QColor surface; ///< cards and bars
     QColor raised; ///< controls on a surface
-    QColor border;
-    QColor text;
+    QColor border; ///< lines between and around surfaces
+    QColor text; ///< running text
     QColor mutedText; ///< captions and hints
-    QColor disabledText;
-    QColor accent;
+    QColor disabledText; ///< text of what can't be used now
+    QColor accent; ///< what a person acts on
     QColor onAccent; ///< text on the accent
     QColor accentSoft; ///< selection
-    QColor ok, okSoft;
-    QColor warning, warningSoft;
-    QColor error, errorSoft;
+    QColor ok; ///< all is well
+    QColor okSoft; ///< its background
+    QColor warning; ///< needs attention
+    QColor warningSoft; ///< its background
+    QColor error; ///< failed, or dangerous
+    QColor errorSoft; ///< its background
 };
 
 /**
@@ -52,26 +56,32 @@ class HOST_EXPORT ThemeManager : public QObject
     Q_OBJECT
 
 public:
+    /** Light at first. Belongs to the parent, if there is one. */
     explicit ThemeManager(QObject *parent = nullptr);
     ~ThemeManager() override;
 
     /** The host's theme manager, made on first use. Never null. */
     static ThemeManager *instance();
 
+    /** The current theme. */
     Theme theme() const;
     /** Changes the looks of what follows themeChanged(), and of the application after
      *  applyToApplication(). Nothing happens where the theme is the current one. */
     void setTheme(Theme theme);
     /** "light" or "dark"; false, with nothing changed, for another name. */
     bool setTheme(const QString &name);
+    /** The current theme's name: "light" or "dark". */
     QString themeName() const;
 
+    /** The current theme's colours; they change with it. */
     const ThemeColours &colours() const;
-    /** The colour, and its soft background, of a message level: "warning", "error", or any other
-     *  for plain information. */
+    /** The colour of a message level: "warning", "error", or any other for plain information. */
     QColor levelColour(const QString &level) const;
+    /** The soft background of a message level. */
     QColor levelBackground(const QString &level) const;
+    /** The colours as Qt's own widgets take them. */
     QPalette palette() const;
+    /** The panel's font in one of its sizes. */
     static QFont font(TextSize size, bool bold = false);
     /** A font by its name: "default" is that of running text, and so is any unknown one. */
     static QFont font(const QString &name);
@@ -91,6 +101,7 @@ public:
     void applyToApplication();
 
 Q_SIGNALS:
+    /** Colours and style sheet are another theme's. */
     void themeChanged();
 
 private:

@@ -56,6 +56,7 @@ public:
     QString name() const;
     /** True for a placeholder: a node that is watched or was looked up, but has no content. */
     bool isNull() const;
+    /** Whether its children are in a row. */
     bool isList() const;
 
     /**
@@ -73,18 +74,25 @@ public:
      */
     QVariant value() const;
     /**
-     * Typed getters: the value converted, defaultValue where there is none or where it can't be
-     * converted: a text that is no number, a number outside int, a container. Numbers are rounded
-     * to int. As bool, the texts "", "0" and "false" are false and all others true. Getters with a
-     * path make no handles.
+     * The value as a bool, as all typed getters read it: converted, defaultValue where there is
+     * none or where it can't be converted: a text that is no number, a number outside int, a
+     * container. Numbers are rounded to int. As bool, the texts "", "0" and "false" are false and
+     * all others true. Getters with a path make no handles.
      */
     bool getBool(bool defaultValue) const;
+    /** The value as a whole number, likewise. */
     int getInt(int defaultValue) const;
+    /** The value as a number, likewise. */
     double getDouble(double defaultValue) const;
+    /** The value as a text, likewise. */
     QString getStr(const QString &defaultValue) const;
+    /** The value of the descendant at the dotted path, likewise. */
     bool getBool(const QString &path, bool defaultValue) const;
+    /** A descendant's value as a whole number. */
     int getInt(const QString &path, int defaultValue) const;
+    /** A descendant's value as a number. */
     double getDouble(const QString &path, double defaultValue) const;
+    /** A descendant's value as a text. */
     QString getStr(const QString &path, const QString &defaultValue) const;
 
     /**

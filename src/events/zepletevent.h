@@ -22,6 +22,7 @@ class ZEPLET_EXPORT ZepletEvent
 public:
     /// An event of type None without source and data.
     ZepletEvent();
+    /// An event with a new number and id, and the time of now.
     ZepletEvent(ZepletEventType type, const QString &source, const QVariant &data);
 
     /// The next sequence number: 1 for the first event of the process, whichever thread makes it.
@@ -31,6 +32,7 @@ public:
     QStringList propertyNames() const;
     /// The extra value of that name; `defaultValue` only where the name is not present.
     QVariant property(const QString &name, const QVariant &defaultValue = QVariant()) const;
+    /// Whether the extra value is present, be it an invalid one.
     bool hasProperty(const QString &name) const;
     /// Adds the extra value or overwrites it.
     void setProperty(const QString &name, const QVariant &value);

@@ -26,6 +26,7 @@ public:
 
     /// Whether there is a handler and it may still be called.
     bool isValid() const;
+    /// Whether it ends with the first call; false without a handler.
     bool isOneShot() const;
     /// Empty without a handler.
     QString handlerName() const;
@@ -42,9 +43,11 @@ public:
     /// One line with id, plugin, type (bare hexadecimal), handler, validity and count, for logs.
     QString toString() const;
 
+    /// What the bus knows it by.
     QString id;
     /// Who subscribed: free text.
     QString pluginName;
+    /// The type of the events that reach it.
     ZepletEventType eventType = None;
     /// May be null.
     QSharedPointer<ZepletEventHandler> handler;
@@ -52,6 +55,7 @@ public:
     QDateTime createdTime;
     /// In UTC; `createdTime` until the first invocation.
     QDateTime lastInvokedTime;
+    /// Calls of the handler that returned.
     quint64 invokeCount = 0;
 };
 

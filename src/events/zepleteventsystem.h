@@ -28,7 +28,9 @@ class ZEPLET_EXPORT ZepletEventSystem : public QObject
     Q_OBJECT
 
 public:
+    /// What a subscription calls.
     using Callback = std::function<void(const ZepletEvent &)>;
+    /// Says whether an event reaches the callback.
     using Filter = std::function<bool(const ZepletEvent &)>;
 
     /// The bus, made by the first call, on whose thread asynchronous events are delivered. Any
@@ -56,11 +58,13 @@ public:
     /// when all have run. It reaches the subscriptions of this moment: one that a handler removes
     /// meanwhile is still called, one that it adds is not.
     void publish(const ZepletEvent &event);
+    /// Publishes a new event of the type, likewise.
     void publish(ZepletEventType type, const QVariant &data = QVariant(),
                  const QString &source = QString());
     /// Publishes a copy, the same event, from the event loop of the bus's thread. Does not block;
     /// events of one thread keep their order.
     void publishAsync(const ZepletEvent &event);
+    /// Publishes a new event of the type, likewise. Its time is that of this call.
     void publishAsync(ZepletEventType type, const QVariant &data = QVariant(),
                       const QString &source = QString());
 
@@ -81,6 +85,7 @@ public:
     int subscriptionCount(const QString &pluginName) const;
     /// Only the valid ones.
     int totalSubscriptionCount() const;
+    /// Whether there is a subscription of that id, valid or not.
     bool hasSubscription(const QString &subscriptionId) const;
     /// The types that have at least one subscription, in no particular order.
     QList<ZepletEventType> registeredEventTypes() const;
@@ -91,6 +96,7 @@ public:
     quint64 totalEventsPublished() const;
     /// Calls of handlers that returned.
     quint64 totalEventsHandled() const;
+    /// Sets both counts to 0.
     void resetStatistics();
 
     /// A new type from 0x8000 to 0xFFFF, also for a name that is already taken. When all are given

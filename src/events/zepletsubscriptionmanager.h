@@ -22,8 +22,10 @@ class ZepletSubscriptionManagerPrivate;
 class ZEPLET_EXPORT ZepletSubscriptionManager
 {
 public:
+    /// A record that is shared with the manager.
     using SubscriptionPointer = QSharedPointer<ZepletEventSubscription>;
 
+    /// A manager without subscriptions.
     ZepletSubscriptionManager();
     Q_DISABLE_COPY(ZepletSubscriptionManager)
     ~ZepletSubscriptionManager();
@@ -42,20 +44,27 @@ public:
 
     /// Null for an unknown id.
     SubscriptionPointer getSubscription(const QString &id) const;
+    /// Whether the id is known.
     bool hasSubscription(const QString &id) const;
+    /// The ids of all, valid or not.
     QStringList allSubscriptionIds() const;
+    /// How many may still be called.
     int validSubscriptionCount() const;
 
+    /// Those of an event type, valid or not.
     QList<SubscriptionPointer> getSubscriptionsByType(ZepletEventType type) const;
+    /// Those of a plugin, valid or not.
     QList<SubscriptionPointer> getSubscriptionsByPlugin(const QString &pluginName) const;
     /// Valid or not.
     int subscriptionCountByType(ZepletEventType type) const;
     /// Valid or not.
     int subscriptionCountByPlugin(const QString &pluginName) const;
+    /// The ids of a plugin's, valid or not.
     QStringList subscriptionIds(const QString &pluginName) const;
     /// The types that have at least one subscription, valid or not.
     QList<ZepletEventType> registeredEventTypes() const;
 
+    /// Removes all.
     void clear();
 
 private:

@@ -10,6 +10,7 @@ namespace zeplet
 class ZEPLET_EXPORT CustomInterface : public BaseInterface
 {
 public:
+    /** Belongs to the parent, if there is one. */
     explicit CustomInterface(QObject *parent);
     ~CustomInterface() override;
 };

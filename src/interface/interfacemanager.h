@@ -34,8 +34,10 @@ public:
      *  a second call doubles every event. */
     void initEventSystem();
 
-    // Requests to the controller. "module" names the controller module, "command" the dotted
-    // command in it; a full command is "module.command".
+    /** @name Requests to the controller
+     *  "module" names the controller module, "command" the dotted command in it; a full command is
+     *  "module.command". */
+    /** @{ */
 
     /** Sends without waiting for the answer; true when accepted. */
     bool rcRequest(const QString &module, const QString &command, const QJsonValue &data,
@@ -44,37 +46,51 @@ public:
      *  holds, or null where none came. */
     QJsonValue rcExecRequest(const QString &module, const QString &command, const QJsonValue &data,
                              bool wait = true, int timeout = 1600);
+    /** rcRequest() with a full command. */
     bool rcRequestFullCommand(const QString &command, const QJsonValue &data, int timeout = 1600);
+    /** rcExecRequest() with a full command. */
     QJsonValue rcExecRequestFullCommand(const QString &command, const QJsonValue &data,
                                         bool wait = true, int timeout = 1600);
 
-    // The service hub and the host's data store.
+    /** @} */
+
+    /** @name The service hub and the host's data store */
+    /** @{ */
 
     /** Whether the controller's link is up. */
     bool getRobotConnected();
     /** A node of the host's data store by its dotted key; null for a node without content. */
     QJsonValue getNodeData(const QString &key);
-    /** The value of a hub key, or of a part of it; null when the link is down. At once. */
+    /** The value of a hub key as the panel mirrors it; null when the link is down. At once. */
     QJsonValue getNexoData(const QString &key);
+    /** The value of a part of a hub key, likewise. */
     QJsonValue getNexoData(const QString &key, const QString &subKey);
-    /** Send a value or a command to the hub without waiting. True says that the link was up, not
+    /** Sends a value for a part of a hub key, without waiting. True says that the link was up, not
      *  that the hub took it. */
     bool setNexoData(const QString &key, const QString &subKey, const QVariant &value);
+    /** Sends a value for a hub key, likewise. */
     bool setNexoData(const QString &key, const QVariant &value);
+    /** Sends a command to the hub, likewise. */
     bool commandNexoData(const QString &key, const QVariant &value);
     /** Sends a command and blocks until the hub answers, the link is lost or the host's limit
      *  passes; null where no answer came. */
     QJsonValue execCommandNexoData(const QString &key, const QVariant &value);
-    /** Sends a plugin command and blocks likewise; empty where no answer came. The short forms
-     *  send [obj], [{key: obj}] and [{key: {subKey: value}}]. */
+    /** Sends a plugin command and blocks likewise; empty where no answer came. */
     QJsonArray commandCustomData(QObject *sender, const QJsonArray &data);
+    /** Sends [obj], likewise. */
     QJsonArray commandCustomData(QObject *sender, const QJsonObject &obj);
+    /** Sends [{key: obj}], likewise. */
     QJsonArray commandCustomData(QObject *sender, const QString &key, const QJsonObject &obj);
+    /** Sends [{key: {subKey: value}}], likewise. */
     QJsonArray commandCustomData(QObject *sender, const QString &key, const QString &subKey,
                                  const QString &value);
 
-    // Subscriptions. Callbacks run as handlers of the event bus. "subscriber" is the plugin's name
-    // on the bus; "reserved" is ignored.
+    /** @} */
+
+    /** @name Subscriptions
+     *  Callbacks run as handlers of the event bus. "subscriber" is the plugin's name on the bus;
+     *  "reserved" is ignored. */
+    /** @{ */
 
     /** Calls back on changes of a hub key, and watches the key until everyone who connected it has
      *  disconnected it: ending the subscription on the bus alone does not end the watch. */
@@ -89,6 +105,7 @@ public:
     bool connectRcNotify(const QString &subscriber, const QString &notifyPath,
                          std::function<void(const QVariant &)> callback,
                          const QString &reserved = QString());
+    /** Ends one subscription by its id, or all of that path, as disconnectNexoData() does. */
     bool disconnectRcNotify(const QString &subscriber, const QString &notifyPath,
                             const QString &subscriptionId);
     /** Calls back when the network came back (onConnect) or was lost, as long as context lives;
@@ -100,8 +117,12 @@ public:
     bool disconnectNetworkStatus(bool onConnect, const QString &subscriber,
                                  const QString &subscriptionId);
 
-    // Robot status and modes. Readers look at the host's data, which follows the controller; a
-    // missing value gives the default that is named.
+    /** @} */
+
+    /** @name Robot status and modes
+     *  Readers look at the host's data, which follows the controller; a missing value gives the
+     *  default that is named. */
+    /** @{ */
 
     /** The controller's identity; empty when none is known. */
     QString getRobotID();
@@ -115,28 +136,41 @@ public:
     int getUserOperateLevel();
     /** The controller's address as the host is set. */
     QString getRobotIP();
+    /** The robot's type, as the controller names it; empty when unknown. */
     QString getRobotType();
     /** The number of the robot model's template, out of the last answer to
      *  "system.controller.get_params"; 0 before. Nothing is asked. */
     int getRobotModelType();
-    /** Switch the motors or the operating mode. blocking: waits up to 1600 ms, and true says that
+    /** Switches the motors. blocking: waits up to 1600 ms, and true says that
      *  an answer came; otherwise true says that the request was accepted. */
     bool changeRobotPowerStatue(bool on, bool blocking);
+    /** Switches to manual or to automatic operation, likewise. */
     bool changeRobotModelStatue(bool manual, bool blocking);
 
-    // Program run control: requests to the host, which starts and stops the program.
+    /** @} */
 
-    /** Ask the host, from the event loop, to start or stop the program; true when that is queued.
+    /** @name Program run control
+     *  Requests to the host, which starts and stops the program. */
+    /** @{ */
+
+    /** Asks the host, from the event loop, to start the program; true when that is queued.
      *  False, with an error line, without a link. */
     bool startRunning();
+    /** Asks the host to stop the program, likewise. */
     bool stopRunning();
-    /** With a filter on, an operator's start (or stop) waits until a plugin calls startRunning()
-     *  (or stopRunning()). Always true. */
+    /** With the filter on, an operator's start waits until a plugin calls startRunning(). Always
+     *  true. */
     bool startRunningFilter(bool on);
+    /** With the filter on, an operator's stop waits until a plugin calls stopRunning(). Always
+     *  true. */
     bool stopRunningFilter(bool on);
 
-    // Projects: directories below the host's workspace. Names are trimmed first; a name that is not
-    // one plain path component is invalid.
+    /** @} */
+
+    /** @name Projects
+     *  Directories below the host's workspace. Names are trimmed first; a name that is not one
+     *  plain path component is invalid. */
+    /** @{ */
 
     /** The open project as "robot/name"; empty when none is. */
     QString getCurProject();
@@ -152,48 +186,72 @@ public:
      *  and, for the autoload project, up to 1600 ms for the controller. */
     int removeProject(const QString &name);
 
-    // IO signals and registers. Signal types: 1 "DI", 2 "DO", 3 "GI", 4 "GO", 5 "AI", 6 "AO".
+    /** @} */
+
+    /** @name IO signals and registers
+     *  Signal types: 1 "DI", 2 "DO", 3 "GI", 4 "GO", 5 "AI", 6 "AO". */
+    /** @{ */
 
     /** A signal's value as a bool, asked from the controller; false on every failure, with a log
      *  line. Blocks up to 1600 ms. */
     bool getIOValue(const QString &name);
     /** All signals with their values, asked likewise; empty on failure. */
     QHash<QString, QVariant> getIOHash();
-    /** The names of all signals of a type, in the order of the catalogue. */
+    /** The names of all signals of a type, in the order of the catalogue; none, with an error line,
+     *  for another number. */
     QStringList getIOByType(int type);
+    /** The same by the type's name, in capital letters. */
     QStringList getIOByType(const QString &typeName);
     /** Sends a value without waiting. Always 0: system IO, and digital inputs outside simulation,
-     *  are refused through the operator's banner. An unknown type name is sent unchecked. */
+     *  are refused through the operator's banner. An unknown type is sent unchecked. */
     int setIOValue(const QString &name, int type, bool value);
+    /** The same by the type's name. */
     int setIOValue(const QString &name, const QString &typeName, bool value);
     /** The registers as the host mirrors them: an array of {"name", "value": [text, ...]}. */
     QJsonValue getRegisterValue();
+    /** The registers' values, as texts, by name. */
     QHash<QString, QStringList> getRegisterHash();
 
-    // Tools, work objects, speeds and zones, as the host mirrors them: system entries, then the
-    // project's, then global ones, with duplicates.
+    /** @} */
 
-    QString getCurTool(); ///< "tool0" where none is selected
-    QString getCurWobj(); ///< "wobj0" where none is selected
-    QStringList getToolList();
-    QStringList getWobjList();
-    QStringList getSpeedList();
-    QStringList getZoneList();
+    /** @name Tools, work objects, speeds and zones
+     *  As the host mirrors them: system entries, then the project's, then global ones, with
+     *  duplicates. */
+    /** @{ */
 
-    // Persistent variables, for controllers of the versions 2.3, 3.0, 3.1 and 3.2; with others
-    // these give a log line and -240 or nothing.
+    QString getCurTool(); ///< the selected tool; "tool0" where none is
+    QString getCurWobj(); ///< the selected work object; "wobj0" where none is
+    QStringList getToolList(); ///< the names of the tools
+    QStringList getWobjList(); ///< the names of the work objects
+    QStringList getSpeedList(); ///< the names of the speeds
+    QStringList getZoneList(); ///< the names of the zones
 
-    /** Selects the variables to be monitored, in place of those before. 0 sent, -240. */
+    /** @} */
+
+    /** @name Persistent variables
+     *  For controllers of the versions 2.3, 3.0, 3.1 and 3.2; with others these give a log line and
+     *  -240 or nothing. */
+    /** @{ */
+
+    /** Selects the variables to be monitored, in place of those before. 0 sent, -240 not for this
+     *  controller's version. Does not wait. */
     int registPERSVars(const QVector<QString> &names);
-    /** 0 sent, -1 sizes differ or a number is not finite, -240. */
+    /** Sends a value for each name. 0 sent, -1 sizes differ or a number is not finite, -240 not for
+     *  this controller's version. Does not wait. */
     int setValuesOfPERSVars(const QVector<QString> &names, const QVector<QVariant> &values);
     /** One text per name, empty where no value came. Blocks until the service hub answers. */
     QVector<QString> getValuesOfPERSVars(const QVector<QString> &names);
+    /** The names that are selected; empty where none are known. At once. */
     QVector<QVariant> getRegistedPERSVars();
 
-    // Points of the open project. An element index has the form [i][j][k]; "" is [0][0][0], missing
-    // levels are 0. Millimetres and degrees.
+    /** @} */
 
+    /** @name Points of the open project
+     *  An element index has the form [i][j][k]; "" is [0][0][0], missing levels are 0. Millimetres
+     *  and degrees. */
+    /** @{ */
+
+    /** The names of all points, in the order of the project. */
     QStringList getPointNameList();
     /** The element indexes of a point; empty if there is no such point. */
     QStringList getPointValueIndexList(const QString &name);
@@ -211,9 +269,13 @@ public:
     /** Whether two names are the same, to the letter. */
     bool checkPointSame(const QString &a, const QString &b);
 
-    // Editing points. Each edit changes the host's data, tells the controller, writes point.json
-    // and pushes it, in this order; true when all of it was done. Nothing is rolled back. Names are
-    // found whatever their case. Blocks for the controller, the disk and rsync (up to 30 s).
+    /** @} */
+
+    /** @name Editing points
+     *  Each edit changes the host's data, tells the controller, writes point.json and pushes it, in
+     *  this order; true when all of it was done. Nothing is rolled back. Names are found whatever
+     *  their case. Blocks for the controller, the disk and rsync (up to 30 s). */
+    /** @{ */
 
     /** Adds a point with one empty element; false, too, if the name is taken. */
     bool createPoint(const QString &name, bool joint, bool persistent);
@@ -235,22 +297,32 @@ public:
     /** Deletes an element; with the last one, the point. */
     bool removePointElement(const QString &name, const QString &index);
 
-    // Motion to the first element of a point, taken as a Cartesian pose.
+    /** @} */
+
+    /** @name Motion to a point
+     *  To its first element, taken as a Cartesian pose. */
+    /** @{ */
 
     /** Sends the robot to a point at speed mm/s. result: 0 sent, -1 no such point or element, -2
      *  the arm configuration is missing, which useConf and joint motion need. What goes wrong on
      *  the way is told on the hub key "move.last_error_with_setting". Blocks for one command. */
     void moveToStart(int &result, const QString &name, int speed, bool useConf, bool joint);
+    /** The same with useConf. */
     void moveToStart(int &result, const QString &name, int speed, bool joint);
     /** Stops that motion, and listens no longer for what goes wrong. Does not wait. */
     void moveToStop();
     /** 1 for equal names, 0 where the path is allowed, -2 where it is not. Blocks for the hub. */
     int checkPointMoveTo(const QString &from, const QString &to);
 
-    // Program variables of the open project, found by their exact name. Each change goes to the
-    // host's data, the controller, var.json and its copy there; what the controller refuses is
-    // undone. Blocks for the service hub, the disk and rsync (up to 30 s).
+    /** @} */
 
+    /** @name Program variables of the open project
+     *  They are found by their exact name. Each change goes to the host's data, the controller,
+     *  var.json and its copy there; what the controller refuses is undone. True when all of it was
+     *  done. Blocks for the service hub, the disk and rsync (up to 30 s). */
+    /** @{ */
+
+    /** The whole record; empty if there is none. */
     QJsonObject getVarObjDataByName(const QString &name);
     /** The names of the variables of a type; of all with an empty one. */
     QStringList getVarDataList(const QString &type);
@@ -260,7 +332,10 @@ public:
     bool updateVarData(const QString &name, const QVariant &value);
     /** Deletes those of the named variables that are no connections; false if there are none. */
     bool delVarData(const QStringList &names);
+    /** Deletes one variable, likewise. */
     bool delVarData(const QString &name);
+
+    /** @} */
 
 Q_SIGNALS:
     /** Controller and service hub are both connected again. */

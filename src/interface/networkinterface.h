@@ -15,6 +15,7 @@ class ZEPLET_EXPORT NetworkInterface : public BaseInterface
     Q_OBJECT
 
 public:
+    /** Belongs to the parent, if there is one. */
     explicit NetworkInterface(QObject *parent);
 
     /** The panel's mirror of the hub's key, whether or not the link is up; answers at once. */

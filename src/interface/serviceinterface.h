@@ -10,6 +10,7 @@ namespace zeplet
 class ZEPLET_EXPORT ServiceInterface : public BaseInterface
 {
 public:
+    /** Belongs to the parent, if there is one. */
     explicit ServiceInterface(QObject *parent);
     ~ServiceInterface() override;
 };

@@ -19,16 +19,19 @@ class ZEPLET_EXPORT PluginBase : public QObject
     Q_OBJECT
 
 public:
+    /** The parent is the plugin's module, which the factory is given; it owns the plugin. */
     explicit PluginBase(QObject *parent);
     ~PluginBase() override;
 
     /** Whether the host's style sheet is applied to the plugin's page before each render(). */
     void setDefaultGlobalSheet(bool enabled);
+    /** What was set; true at first. */
     bool getDefaultGlobalSheet() const;
 
     /** The title of the plugin's navigation entry; empty: the plugin's name. Read once, before
      *  init(): set it in the constructor. */
     void setPluginLabel(const QString &label);
+    /** What was set; empty at first. */
     QString getPluginLabel() const;
 
     /** The page and the navigation entry stand: build the UI, subscribe. */

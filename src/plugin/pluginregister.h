@@ -19,6 +19,7 @@ class PluginBase;
 class ZEPLET_EXPORT PluginRegister
 {
 public:
+    /** Makes the plugin as a child of the object. */
     using Factory = std::function<PluginBase *(QObject *)>;
 
     /**

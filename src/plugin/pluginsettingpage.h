@@ -21,6 +21,7 @@ class ZEPLET_EXPORT PluginSettingPage : public brisa::BaseSettingPage
     Q_OBJECT
 
 public:
+    /** A page of that name for the plugin's module; the parent owns it. */
     PluginSettingPage(const QString &name, const QString &pluginName, QWidget *parent,
                       QObject *module);
     ~PluginSettingPage() override;
@@ -31,6 +32,7 @@ public:
     /** Takes the centre widget out to the whole screen, or back. False without a centre widget,
      *  and, with an error line, where it is that way already. */
     bool changeFullWidget(bool full);
+    /** Whether the centre widget is on the whole screen. */
     bool isFullWidget() const;
 
 private:

@@ -27,6 +27,7 @@ class ZEPLET_EXPORT Zeplet : public kest::BModule
     Q_OBJECT
 
 public:
+    /** The module of the plugin of that name; the parent owns it. */
     Zeplet(const QString &name, QObject *parent);
     ~Zeplet() override;
 
@@ -37,13 +38,20 @@ public:
 
     /** "zeplet" for every plugin. */
     QString name() const override;
+    /** The name that the plugin registered. */
     const QString &pluginName() const;
 
+    /** Makes the plugin's page and adds it to the centre area. */
     void setup() override;
+    /** Makes the navigation entry, then calls the plugin's init(). */
     void init() override;
+    /** Calls the plugin's afterInit(). */
     void afterInit() override;
+    /** Applies the host's style sheet where the plugin wants it, then calls its render(). */
     void render() override;
+    /** Calls the plugin's idle(). */
     void idle() override;
+    /** Calls the plugin's detach(). */
     void detach() override;
 
     /** Puts the widget into the plugin's page, which owns it from then on. */
@@ -55,14 +63,18 @@ public:
     bool createRightExpandWidgte(QWidget *widget, const QString &page);
     /** Shows a page of the right side bar, and the bar. */
     void switchRightExpandWidgte(const QString &page);
+    /** Registers two rows of physical keys under a page name. */
     bool createPhyBtnPage(const QString &page, const QList<brisa::PhysicalButton> &first,
                           const QList<brisa::PhysicalButton> &second, QStringList extra);
+    /** Enables or disables the keys of a page. */
     bool changePhyBtnStatus(const QString &page, bool enable);
     /** Counts one modal window of this module in the host, or takes it back; false and no change
      *  where it is that way already. */
     bool changeModelWindowStatus(bool shown);
+    /** Takes the plugin's centre widget to the whole screen, or back; false without one, or where
+     *  it is that way already. */
     bool changeFullScreen(bool full);
-    /** Shows a message in the host's log banner. Returns 0. */
+    /** Shows a message in the host's log banner. Always 0. */
     int ThrowLog(enThrowLogLevel level, const QString &message);
     /** Removes the first navigation entry below parent that is linked to the centre page nav.
      *  False for an empty parent only. */

@@ -27,8 +27,9 @@ ZEPLET_EXPORT QString normalizePointValueIndex(const QString &index);
 ZEPLET_EXPORT ostrel::ModuleObject *findPointByName(ostrel::ModuleObject *list, const QString &name,
                                                     int *index);
 
-/** The elements of a record: their number, and their indexes in the order of the record. */
+/** The number of a record's elements. */
 ZEPLET_EXPORT int countPointValueElements(ostrel::ModuleObject *point);
+/** The indexes of a record's elements, in its order. */
 ZEPLET_EXPORT QStringList collectPointValueIndexes(ostrel::ModuleObject *point);
 
 } // namespace zeplet

@@ -24,9 +24,13 @@ public:
     RLBaseWidget(RLContentBase *content, QWidget *parent);
     ~RLBaseWidget() override;
 
+    /** Fills the content from the text of an instruction. */
     void FillWith(const QString &text) override;
+    /** The content's text; empty without one. */
     QString ToString() override;
+    /** Whether the content may be inserted; true without one. */
     bool CheckInsert() override;
+    /** Whether the content may replace an instruction; true without one. */
     bool CheckReplace() override;
 
 private:

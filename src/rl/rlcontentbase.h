@@ -18,6 +18,7 @@ class ZEPLET_EXPORT RLContentBase : public QWidget
     Q_OBJECT
 
 public:
+    /** The program editor takes ownership, whatever the parent. */
     explicit RLContentBase(QWidget *parent = nullptr);
     ~RLContentBase() override;
 

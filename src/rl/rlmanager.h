@@ -28,8 +28,10 @@ class ZEPLET_EXPORT RLManager : public QObject
     Q_OBJECT
 
 public:
+    /** Makes the content of a widget. */
     using MakeContent = std::function<RLContentBase *()>;
 
+    /** Belongs to the parent, if there is one; what it entered stays without it. */
     explicit RLManager(QObject *parent = nullptr);
     ~RLManager() override;
 
@@ -39,6 +41,7 @@ public:
     void createGroups(const QString &key, const QString &title);
     /** Puts types into the group of that key. */
     void createTypeToGroup(const QString &key, const QStringList &types);
+    /** Puts one type into the group of that key. */
     void createTypeToGroup(const QString &key, const QString &type);
 
     /** What the instruction does, for the operator. */

@@ -303,7 +303,8 @@ public:
      *  To its first element, taken as a Cartesian pose. */
     /** @{ */
 
-    /** Sends the robot to a point at speed mm/s. result: 0 sent, -1 no such point or element, -2
+    /** Sends the robot to a point at speed mm/s. result: 0 sent, -1 no such point or element, or
+     *  one that is no position, -2
      *  the arm configuration is missing, which useConf and joint motion need. What goes wrong on
      *  the way is told on the hub key "move.last_error_with_setting". Blocks for one command. */
     void moveToStart(int &result, const QString &name, int speed, bool useConf, bool joint);
@@ -311,7 +312,8 @@ public:
     void moveToStart(int &result, const QString &name, int speed, bool joint);
     /** Stops that motion, and listens no longer for what goes wrong. Does not wait. */
     void moveToStop();
-    /** 1 for equal names, 0 where the path is allowed, -2 where it is not. Blocks for the hub. */
+    /** 1 for equal names, 0 where the path is allowed, -2 where it is not, or no answer came.
+     * Blocks for the hub. */
     int checkPointMoveTo(const QString &from, const QString &to);
 
     /** @} */

@@ -18,7 +18,9 @@ enum ZepletEventType : qint32 {
     /// The block of the panel's hardware.
     HardEventStart = 0x1000,
 
-    /// Controller and service hub are both connected again.
+    /// After a loss, controller and service hub are both connected again. Does not come where the
+    /// hub
+    /// never dropped.
     NetworkConnected = 0x2001,
     /// The controller's link was lost. Carries the property "is_expected" (bool).
     NetworkDisconnected = 0x2002,

@@ -340,7 +340,8 @@ public:
     /** @} */
 
 Q_SIGNALS:
-    /** Controller and service hub are both connected again. */
+    /** After a loss, controller and service hub are both connected again. Not emitted where the hub
+     *  never dropped: look at getRobotConnected() then. */
     void sigNetworkConnect();
     /** The controller's link was lost; status: on purpose by this side. */
     void sigNetworkDisConnect(bool status);

@@ -75,3 +75,6 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
         REGEX examples/CMakeLists.txt EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT kit
         FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN adr EXCLUDE)
+# The reference pages, where they were made: script/docs <build directory>/docs
+install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html
+        DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT kit OPTIONAL)

@@ -7,6 +7,7 @@
 #include <QTcpSocket>
 #include <QWebSocket>
 #include <algorithm>
+#include <cmath>
 
 namespace rpc
 {
@@ -28,6 +29,14 @@ Answer toAnswer(const Message &message)
     if (message.kind == Message::Kind::Answer)
         return {Answer::Status::Result, message.result, 0, {}};
     return {Answer::Status::Refused, message.data, message.code, message.reason};
+}
+
+/** The request that an answer names; 0, which no request has, where it names none of this link. */
+qint64 requestOf(const QJsonValue &id)
+{
+    constexpr double exactIntegers = 9007199254740992.0; // 2^53: no request counts beyond it
+    const double number = id.toDouble();
+    return std::fabs(number) < exactIntegers ? static_cast<qint64>(number) : 0;
 }
 
 } // namespace
@@ -305,7 +314,7 @@ void Connection::receiveNotification(const Message &message, qint64 bytes)
 
 void Connection::receiveAnswer(const Message &message, qint64 bytes)
 {
-    const qint64 id = message.id.isDouble() ? static_cast<qint64>(message.id.toDouble()) : 0;
+    const qint64 id = requestOf(message.id);
     const auto it = m_pending.find(id);
     if (it == m_pending.end()) {
         logUnasked(message.id.toVariant().toString());

@@ -173,7 +173,8 @@ private Q_SLOTS:
         QCOMPARE(m_client->call("never", {}, 20).status, Status::TimedOut);
         const QJsonValue late = m_peer->last("never").id;
         m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer(late, "late"))));
-        m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer("unasked", 1))));
+        for (const QJsonValue &id : {QJsonValue("unasked"), QJsonValue(1e300), QJsonValue(-1e300)})
+            m_peer->sendText(QString::fromUtf8(rpc::encode(rpc::Message::answer(id, 1))));
         QCOMPARE(m_client->call("fine", {}, 5000).value, QJsonValue("fine"));
     }
 

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QSaveFile>
-#include <QStringList>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -62,20 +61,18 @@ bool StartGuard::lock()
 void StartGuard::evaluateLastStart()
 {
     const QByteArray content = m_starting.read(maximumEntrySize);
-    const QStringList entry = QString::fromUtf8(content.left(content.indexOf('\0'))).split('\n');
     m_starting.resize(0);
-    if (entry.size() < 3)
+    QJsonObject state = QJsonDocument::fromJson(content.left(content.indexOf('\0'))).object();
+    const QString name = state.take(QStringLiteral("plugin")).toString();
+    if (name.isEmpty())
         return;
-    // A path may hold line breaks itself.
-    QJsonObject state = fileState(QFileInfo(entry.mid(2).join('\n')));
-    state.insert(QStringLiteral("step"), entry.at(1));
-    m_leftOut.insert(entry.at(0), state);
+    m_leftOut.insert(name, state);
     save();
 }
 
 void StartGuard::enterLoading(const QString &name, const QString &library)
 {
-    m_libraries.insert(name, library);
+    m_libraries.insert(name, fileState(QFileInfo(library)));
     enter(name, QStringLiteral("loading"));
 }
 
@@ -91,8 +88,10 @@ void StartGuard::enter(const QString &module, const QString &step)
     // A module without a library is the host's own: there is nothing to leave out.
     if (!m_active || !m_libraries.contains(name))
         return;
-    const QStringList entry {name, step, m_libraries.value(name)};
-    write(entry.join('\n').toUtf8());
+    QJsonObject entry = m_libraries.value(name);
+    entry.insert(QStringLiteral("plugin"), name);
+    entry.insert(QStringLiteral("step"), step);
+    write(QJsonDocument(entry).toJson(QJsonDocument::Compact));
 }
 
 void StartGuard::leave()

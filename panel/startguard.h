@@ -12,12 +12,12 @@ namespace panel
 /**
  * Finds the plugin that takes the panel down while it starts, and keeps it out of the next start.
  *
- * Before each step of a plugin's start its name goes into the file "starting" of the runtime
- * directory; between steps there is none. A panel that finds a name there died in that
- * step: it enters the plugin into "left-out.json", which holds until the plugin's file changes or
- * someone asks to try it again. A step costs one write and no sync: what the process wrote
- * survives its death. A second panel in the same runtime directory neither reads nor writes there.
- * GUI thread.
+ * Before each step of a plugin's start its name and its file's state go into the file "starting" of
+ * the runtime directory; between steps there is none. A panel that finds a name there died in that
+ * step, with the file as it was then: it enters the plugin into "left-out.json", which holds until
+ * the plugin's file changes or someone asks to try it again. A step costs one write and no sync:
+ * what the process wrote survives its death. A second panel in the same runtime directory neither
+ * reads nor writes there. GUI thread.
  */
 class StartGuard
 {
@@ -55,7 +55,7 @@ private:
     QString m_listFile;
     QFile m_starting;
     bool m_active = false;
-    QHash<QString, QString> m_libraries; ///< plugin name to file, of this start
+    QHash<QString, QJsonObject> m_libraries; ///< plugin name to its file's state, of this start
     QHash<QString, QString> m_plugins; ///< module to plugin name, where they differ
     QJsonObject m_leftOut; ///< plugin name to its file's state and the fatal step
 };

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QString>
+#include <startguard.h>
 
 /** Fixture libraries, and copies of them with patched bytes. */
 namespace pluginfiles
@@ -39,6 +40,22 @@ inline void write(const QString &directory, const QString &name, const QByteArra
 inline void copy(const QString &directory, const QString &fixture, const QString &name = QString())
 {
     write(directory, (name.isEmpty() ? fixture : name) + QStringLiteral(".so"), bytes(fixture));
+}
+
+/** Leaves the runtime directory as a panel does that died in the init of that plugin. */
+inline void leaveDeathInInit(const QString &runtimeDirectory, const QString &name,
+                             const QString &library)
+{
+    QFile starting(QDir(runtimeDirectory).filePath(QStringLiteral("starting")));
+    QByteArray left;
+    {
+        panel::StartGuard guard(runtimeDirectory);
+        guard.enterLoading(name, library);
+        guard.enter(name, QStringLiteral("init"));
+        if (starting.open(QIODevice::ReadOnly))
+            left = starting.readAll();
+    }
+    write(runtimeDirectory, QStringLiteral("starting"), left);
 }
 
 } // namespace pluginfiles

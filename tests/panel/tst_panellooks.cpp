@@ -49,10 +49,7 @@ private Q_SLOTS:
         options.runtimeDirectory = m_directory.filePath("run");
         options.settingsFile = m_directory.filePath("settings.json");
         writeSettings();
-        // What a panel leaves that died in the plugin's init.
-        QVERIFY(QDir().mkpath(options.runtimeDirectory));
-        pluginfiles::write(options.runtimeDirectory, "starting",
-                           "crasher\ninit\n" + plugins.toUtf8() + "/crasher.so" + '\0');
+        pluginfiles::leaveDeathInInit(options.runtimeDirectory, "crasher", plugins + "/crasher.so");
         m_simulator.control("set robot SIX-7");
         m_session = std::make_unique<panel::PanelSession>(options);
         QString error;

@@ -40,12 +40,9 @@ private Q_SLOTS:
         options.runtimeDirectory = m_directory.filePath("run");
         options.settingsFile = m_directory.filePath("settings.json");
         options.loadLimit = 1500; // of the one that never returns
-        // What a panel leaves that died in the plugin's init.
         const QString crasher = m_directory.filePath("plugins/crasher.so");
         pluginfiles::copy(m_directory.filePath("plugins"), "crasher");
-        QVERIFY(QDir().mkpath(options.runtimeDirectory));
-        pluginfiles::write(options.runtimeDirectory, "starting",
-                           "crasher\ninit\n" + crasher.toUtf8() + '\0');
+        pluginfiles::leaveDeathInInit(options.runtimeDirectory, "crasher", crasher);
         m_session = std::make_unique<panel::PanelSession>(options);
         QString error;
         QVERIFY2(m_session->start(&error), qPrintable(error));

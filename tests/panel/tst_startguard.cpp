@@ -33,6 +33,14 @@ private Q_SLOTS:
         QVERIFY(!StartGuard(runtime()).isLeftOut(name(), QFileInfo(m_library)));
     }
 
+    /** Its author has corrected it before the panel is started again. */
+    void correctedBeforeTheNextStart()
+    {
+        die(QStringLiteral("init"));
+        write(m_library, "a corrected library");
+        QVERIFY(!StartGuard(runtime()).isLeftOut(name(), QFileInfo(m_library)));
+    }
+
     void deathInAnotherModuleOfTheLibrary()
     {
         {

@@ -92,13 +92,13 @@ ThemeManager *ManagerHelper::themeManager() const
 
 void ManagerHelper::registQrcAlias(const QString &name)
 {
-    static const QRegularExpression valid(QStringLiteral("\\A[A-Za-z0-9_-]{2,}\\z"));
+    static const QRegularExpression valid(QStringLiteral("\\A[A-Za-z0-9_-]+\\z"));
     if (!valid.match(name).hasMatch()) {
         qCWarning(brisaLog).noquote() << QStringLiteral("no alias for resources: ") + name;
         return;
     }
     // Plugins may have such a name; Qt gives it no alias.
-    if (name.contains(QLatin1Char('-')) || name.contains(QLatin1Char('_'))) {
+    if (name.size() < 2 || name.contains(QLatin1Char('-')) || name.contains(QLatin1Char('_'))) {
         qCInfo(brisaLog).noquote()
             << QStringLiteral("resources have no alias for their name: ") << name;
         return;

@@ -113,8 +113,9 @@ private Q_SLOTS:
     {
         ManagerHelper::instance()->registQrcAlias("monitor");
         QCOMPARE(QDir::searchPaths("monitor"), QStringList {":/monitor"});
-        ManagerHelper::instance()->registQrcAlias("page-run"); // Qt itself would warn
-        for (const char *bad : {"", "x", "../etc", "a b"}) {
+        for (const char *unfit : {"page-run", "x"}) // Qt itself would warn
+            ManagerHelper::instance()->registQrcAlias(unfit);
+        for (const char *bad : {"", "../etc", "a b"}) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^no alias for resources: "));
             ManagerHelper::instance()->registQrcAlias(bad);
         }

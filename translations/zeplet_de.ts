@@ -455,10 +455,6 @@
         <translation>Neues Programm</translation>
     </message>
     <message>
-        <source>Delete program</source>
-        <translation>Programm löschen</translation>
-    </message>
-    <message>
         <source>Send to the controller</source>
         <translation>An Steuerung senden</translation>
     </message>
@@ -515,10 +511,6 @@
         <translation>Noch keine Programme</translation>
     </message>
     <message>
-        <source>&quot;New program&quot; makes the first one of this project.</source>
-        <translation>„Neues Programm“ legt das erste dieses Projekts an.</translation>
-    </message>
-    <message>
         <source>It can&apos;t be shown</source>
         <translation>Es kann nicht gezeigt werden</translation>
     </message>
@@ -569,10 +561,6 @@
     <message>
         <source>Name</source>
         <translation>Name</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk, and that its project is still open.</source>
-        <translation>„%1“ konnte nicht angelegt werden: prüfen, ob auf dem Datenträger des Bedienpanels Platz und das Projekt noch geöffnet ist.</translation>
     </message>
     <message>
         <source>Delete the program &quot;%1&quot;?</source>
@@ -629,6 +617,46 @@
     <message>
         <source>Apply</source>
         <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>&quot;New&quot; makes the first one of this project.</source>
+        <translation>„Neu“ legt das erste dieses Projekts an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is changed, but the panel&apos;s disk did not confirm it: check the disk before the panel is switched off.</source>
+        <translation>„%1“ ist geändert, aber der Datenträger des Bedienpanels hat es nicht bestätigt: den Datenträger prüfen, bevor das Bedienpanel ausgeschaltet wird.</translation>
+    </message>
+    <message>
+        <source>Another project is open meanwhile, and nothing was changed: try again.</source>
+        <translation>Inzwischen ist ein anderes Projekt geöffnet, und nichts wurde geändert: erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk.</source>
+        <translation>„%1“ konnte nicht angelegt werden: den Platz auf dem Datenträger des Bedienpanels prüfen.</translation>
+    </message>
+    <message>
+        <source>Rename program</source>
+        <translation>Programm umbenennen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed, and keeps its name: check the panel&apos;s disk.</source>
+        <translation>„%1“ konnte nicht umbenannt werden und behält seinen Namen: den Datenträger des Bedienpanels prüfen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is now &quot;%2&quot; on this panel. What was sent to the controller stays there under the old name.</source>
+        <translation>„%1“ heißt auf diesem Bedienpanel jetzt „%2“. Was an die Steuerung gesendet wurde, bleibt dort unter dem alten Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed elsewhere meanwhile, and was not sent: look at it, and send it again.</source>
+        <translation>„%1“ wurde inzwischen anderswo geändert und nicht gesendet: ansehen und erneut senden.</translation>
     </message>
 </context>
 <context>

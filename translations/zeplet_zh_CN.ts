@@ -455,10 +455,6 @@
         <translation>新建程序</translation>
     </message>
     <message>
-        <source>Delete program</source>
-        <translation>删除程序</translation>
-    </message>
-    <message>
         <source>Send to the controller</source>
         <translation>发送到控制器</translation>
     </message>
@@ -515,10 +511,6 @@
         <translation>尚无程序</translation>
     </message>
     <message>
-        <source>&quot;New program&quot; makes the first one of this project.</source>
-        <translation>“新建程序”可创建此项目的第一个程序。</translation>
-    </message>
-    <message>
         <source>It can&apos;t be shown</source>
         <translation>无法显示</translation>
     </message>
@@ -569,10 +561,6 @@
     <message>
         <source>Name</source>
         <translation>名称</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk, and that its project is still open.</source>
-        <translation>无法创建“%1”：请检查面板磁盘空间，并确认其项目仍处于打开状态。</translation>
     </message>
     <message>
         <source>Delete the program &quot;%1&quot;?</source>
@@ -629,6 +617,46 @@
     <message>
         <source>Apply</source>
         <translation>应用</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>&quot;New&quot; makes the first one of this project.</source>
+        <translation>“新建”可创建此项目的第一个程序。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is changed, but the panel&apos;s disk did not confirm it: check the disk before the panel is switched off.</source>
+        <translation>“%1”已更改，但面板磁盘未确认：请在关闭面板电源前检查磁盘。</translation>
+    </message>
+    <message>
+        <source>Another project is open meanwhile, and nothing was changed: try again.</source>
+        <translation>在此期间打开了另一个项目，未作任何更改：请重试。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be made: check the space on the panel&apos;s disk.</source>
+        <translation>无法创建“%1”：请检查面板磁盘空间。</translation>
+    </message>
+    <message>
+        <source>Rename program</source>
+        <translation>重命名程序</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed, and keeps its name: check the panel&apos;s disk.</source>
+        <translation>无法重命名“%1”，名称保持不变：请检查面板磁盘。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is now &quot;%2&quot; on this panel. What was sent to the controller stays there under the old name.</source>
+        <translation>“%1”在此面板上现名为“%2”。已发送到控制器的内容以旧名称保留在控制器上。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed elsewhere meanwhile, and was not sent: look at it, and send it again.</source>
+        <translation>“%1”已在别处被更改，未发送：请查看后重新发送。</translation>
     </message>
 </context>
 <context>

@@ -10,11 +10,27 @@
 #include <brisa/rlmanager.h>
 #include <ostrel/moduleobject.h>
 #include <stdexcept>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 #include <zeplet/interface/interfacemanager.h>
 #include <zeplet/rl/rlcontentbase.h>
 #include <zeplet/rl/rlmanager.h>
 
 #include <QFormLayout>
+
+static bool s_directorySyncFails = false;
+
+// In the place of the C library's.
+extern "C" __attribute__((visibility("default"))) int fsync(int handle)
+{
+    struct stat state = {};
+    if (s_directorySyncFails && ::fstat(handle, &state) == 0 && S_ISDIR(state.st_mode)) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_fsync, handle));
+}
 
 using zeplet::RLContentBase;
 using zeplet::RLManager;
@@ -242,6 +258,9 @@ private Q_SLOTS:
         QTest::newRow("slashes in quotes are no comment") << "ArcStart(1, \"a//b\")"
                                                           << "ArcStart(77, \"a//b\")"
                                                           << "";
+        QTest::newRow("nothing to enter") << "\tArcEnd // out"
+                                          << "\tArcEnd // out"
+                                          << "";
         QTest::newRow("refused") << "ArcStart(9, 9)" << QString() << "can't be applied yet";
         QTest::newRow("maker throws") << "Thrower" << QString() << "torch not found";
         QTest::newRow("empty function") << "Empty" << QString() << "empty function";
@@ -255,10 +274,11 @@ private Q_SLOTS:
         open("properties", "// first\n" + line + "\n");
         choose(1);
         QVERIFY(m_panel.click("editProperties"));
-        if (auto *const field = m_panel.find<QLineEdit>("current")) {
+        if (auto *const field = m_panel.find<QLineEdit>("current"))
             field->setText(now.isNull() ? "" : "77");
-            QVERIFY(m_panel.click("apply"));
-        }
+        m_panel.click("apply");
+        QCOMPARE(m_panel.find<QWidget>("propertyDialog") == nullptr,
+                 !now.isNull() || !line.startsWith("Arc"));
         const QString said = told() + m_panel.notice();
         QVERIFY2(said.contains(sentence), qPrintable(said));
         QCOMPARE(onPanel("properties"),
@@ -283,6 +303,43 @@ private Q_SLOTS:
         QVERIFY(!m_panel.click("undo"));
     }
 
+    void otherTextsKeepTheirLineEnds_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("moved"); // its first line down
+        QTest::newRow("no end") << QByteArray("a\nb") << QByteArray("b\na\n");
+        QTest::newRow("CRLF") << QByteArray("a\r\nb\r\n") << QByteArray("b\r\na\r\n");
+        QTest::newRow("CRLF, no end") << QByteArray("a\r\nb") << QByteArray("b\r\na\r\n");
+        QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf"
+                                                       "a\nb\n")
+                                         << QByteArray("b\na\n");
+    }
+
+    void otherTextsKeepTheirLineEnds()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, moved);
+        write("ends", content);
+        QVERIFY(reopen("ends"));
+        choose(0);
+        QVERIFY(m_panel.click("moveDown"));
+        QCOMPARE(onPanel("ends"), moved);
+        QVERIFY(m_panel.click("undo"));
+        QCOMPARE(onPanel("ends"), content);
+    }
+
+    void whatTheDiskDidNotConfirmIsShownAsItIs()
+    {
+        choose(1);
+        s_directorySyncFails = true;
+        QVERIFY(m_panel.click("deleteLine"));
+        s_directorySyncFails = false;
+        QVERIFY2(m_panel.notice().contains("did not confirm"), qPrintable(m_panel.notice()));
+        QCOMPARE(lines()->rowCount(), 5);
+        QVERIFY(m_panel.click("undo"));
+        QCOMPARE(onPanel("seam"), program.toUtf8());
+    }
+
     void whatChangedElsewhereIsNotOverwritten()
     {
         write("seam", "other\n");
@@ -297,6 +354,21 @@ private Q_SLOTS:
         QVERIFY(m_panel.click("accept"));
         QVERIFY(m_panel.notice().contains("nothing was changed"));
         QCOMPARE(onPanel("another"), QByteArray("kept\n"));
+        QVERIFY(m_panel.click("newProgram"));
+        m_panel.find<QLineEdit>("programName")->setText("late");
+        write("late", "came meanwhile\n");
+        QVERIFY(m_panel.click("accept"));
+        QVERIFY2(m_panel.notice().contains("already"), qPrintable(m_panel.notice()));
+        QCOMPARE(onPanel("late"), QByteArray("came meanwhile\n"));
+    }
+
+    void nobodySendsWhatNobodySaw()
+    {
+        write("seam", "other\n");
+        QVERIFY(m_panel.click("sendProgram"));
+        QTRY_VERIFY2(m_panel.notice().contains("was not sent"), qPrintable(m_panel.notice()));
+        QVERIFY(onController("seam").isNull());
+        QCOMPARE(lines()->rowCount(), 1);
     }
 
     void theControllerGetsItWhenItIsSent()
@@ -317,6 +389,21 @@ private Q_SLOTS:
         QCOMPARE(state(), QString("Other text on the controller"));
         QVERIFY(m_panel.click("undo"));
         QCOMPARE(state(), QString("Same text on the controller"));
+    }
+
+    void renamingLosesNothing()
+    {
+        choose(1);
+        QVERIFY(m_panel.click("deleteLine"));
+        QVERIFY(m_panel.click("renameProgram"));
+        QVERIFY(!m_panel.click("accept")); // it is its name already
+        m_panel.find<QLineEdit>("programName")->setText("seam left");
+        QVERIFY(m_panel.click("accept"));
+        QCOMPARE(programs()->currentText(), QString("seam left"));
+        QVERIFY(!QFile::exists(path("seam")));
+        QCOMPARE(state(), QString("Not on the controller yet"));
+        QVERIFY(m_panel.click("undo"));
+        QCOMPARE(onPanel("seam left"), program.toUtf8());
     }
 
     void nothingIsSentWhileAProgramRuns()
@@ -488,12 +575,12 @@ private:
         return contentOf(disk() + "/hmi/cell/program/" + name + ".prog");
     }
 
-    void write(const QString &name, const QString &text) const
+    void write(const QString &name, const QByteArray &content) const
     {
         QDir().mkpath(QFileInfo(path(name)).path());
         QFile file(path(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
+        file.write(content);
     }
 
     QListView *view() const { return m_panel.find<QListView>("programLines"); }
@@ -532,7 +619,7 @@ private:
 
     void open(const QString &name, const QString &text)
     {
-        write(name, text);
+        write(name, text.toUtf8());
         QVERIFY(reopen(name));
         QCOMPARE(lines()->rowCount(), text.count('\n'));
     }

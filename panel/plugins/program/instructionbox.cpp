@@ -37,14 +37,16 @@ QString InstructionBox::make(const brisa::RlManager::WidgetMaker &maker)
 {
     delete takeWidget();
     brisa::BaseContentWidget *made = nullptr;
-    QString fault = faultOf([&] { made = maker(viewport()); });
+    // A copy: a maker that registers its type anew replaces itself in the record.
+    QString fault = faultOf([&, maker] { made = maker(viewport()); });
     if (!fault.isEmpty())
         return fault;
     if (!made)
         return tr("its plugin gave no widget");
     m_content = made;
     setWidget(made);
-    if (made->findChildren<QWidget *>().isEmpty() && !made->layout()) {
+    m_bare = made->findChildren<QWidget *>().isEmpty() && !made->layout();
+    if (m_bare) {
         auto *const label = new QLabel(tr("There is nothing to enter."), made);
         label->setProperty("role", QStringLiteral("muted"));
         label->setMinimumHeight(metrics::Touch);

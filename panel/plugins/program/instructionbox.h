@@ -18,6 +18,8 @@ public:
 
     /** Makes the widget and shows it in place of an earlier one. */
     QString make(const brisa::RlManager::WidgetMaker &maker);
+    /** The plugin's widget has nothing in it. */
+    bool isBare() const { return m_bare; }
     QString fill(const QString &line);
     QString checkInsert(bool *will);
     QString checkReplace(bool *will);
@@ -32,4 +34,5 @@ private:
     void fit();
 
     QPointer<brisa::BaseContentWidget> m_content;
+    bool m_bare = false;
 };

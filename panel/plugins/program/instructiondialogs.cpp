@@ -231,5 +231,7 @@ void PropertyDialog::apply()
         fault = box()->read(&text);
     if (!fault.isEmpty())
         return say(tr("The line stays as it is: %1. Edit its text instead.").arg(fault));
+    if (text.isEmpty() && box()->isBare())
+        return finish(); // nothing was entered, nothing changes
     accept(text);
 }

@@ -91,7 +91,7 @@ void LineDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
              QString::number(index.row() + 1), ThemeManager::font(brisa::TextSize::Caption, chosen),
              chosen ? colours.accent : colours.mutedText, Qt::AlignRight);
     QRect box = option.rect.adjusted(GutterWidth + Gap, 0, -Gap, 0);
-    const QString text = visible(programtext::shown(line));
+    const QString text = visible(programtext::shown(line).left(programtext::LongestLine));
     if (kind == Kind::Code) {
         const bool known = !type.isEmpty();
         const kit::Mark mark {known ? type : tr("Unknown"),

@@ -22,6 +22,8 @@ struct Texts {
 
 constexpr int LongestName = 60; // characters, of at most four bytes each
 const QString Suffix = QStringLiteral(".prog");
+const QString NotesFile = QStringLiteral("/sent.json");
+const QByteArray ByteOrderMark = QByteArrayLiteral("\xef\xbb\xbf");
 
 bool isPlainPart(const QString &part)
 {
@@ -67,7 +69,17 @@ QByteArray contentOf(const QString &path, QString *problem)
         *problem = Texts::tr("it is larger than 1 MiB");
     else if (!file.open(QIODevice::ReadOnly))
         *problem = file.errorString();
-    return problem->isEmpty() ? file.readAll() : QByteArray();
+    const QByteArray content = file.isOpen() ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError)
+        *problem = file.errorString();
+    return problem->isEmpty() ? content : QByteArray();
+}
+
+/** What is read as text must give the same file again. A byte order mark is no text. */
+bool isText(const QByteArray &bytes)
+{
+    const QByteArray again = QString::fromUtf8(bytes).toUtf8();
+    return again == bytes || ByteOrderMark + again == bytes;
 }
 
 } // namespace
@@ -96,7 +108,7 @@ QStringList ProgramFolder::names(int *left) const
     const QStringList files
         = QDir(m_path).entryList({QLatin1Char('*') + Suffix}, QDir::Files | QDir::System);
     for (const QString &file : files) {
-        if (isProgramName(file.chopped(Suffix.size())))
+        if (file.endsWith(Suffix) && isProgramName(file.chopped(Suffix.size())))
             names.append(file.chopped(Suffix.size()));
         else
             ++*left;
@@ -126,8 +138,7 @@ bool ProgramFolder::read(const QString &name, QByteArray *content, QString *refu
 {
     QString problem;
     const QByteArray bytes = contentOf(filePath(name), &problem);
-    // What is read as text must give the same file again.
-    if (problem.isEmpty() && QString::fromUtf8(bytes).toUtf8() != bytes)
+    if (problem.isEmpty() && !isText(bytes))
         problem = Texts::tr("it is no text in UTF-8");
     if (!problem.isEmpty()) {
         *refusal = Texts::tr("\"%1\" can't be shown: %2. The file stays as it is; put a text file "
@@ -139,18 +150,40 @@ bool ProgramFolder::read(const QString &name, QByteArray *content, QString *refu
     return true;
 }
 
-bool ProgramFolder::write(const QString &name, const QByteArray &content) const
+ProgramFolder::Saved ProgramFolder::write(const QString &name, const QByteArray &content) const
 {
-    return isOpen() && isProgramName(name) && !QFileInfo(m_path).isSymLink()
-        && ostrel::ModuleManager::writeFile(filePath(name), content);
+    if (!isOpen() || !isProgramName(name) || QFileInfo(m_path).isSymLink())
+        return Saved::No;
+    if (ostrel::ModuleManager::writeFile(filePath(name), content))
+        return Saved::Yes;
+    // The file is in place where only the sync of its directory failed.
+    QString problem;
+    const bool inPlace = contentOf(filePath(name), &problem) == content && problem.isEmpty();
+    return inPlace ? Saved::Unconfirmed : Saved::No;
 }
 
 bool ProgramFolder::remove(const QString &name) const
 {
-    if (!isOpen() || !isProgramName(name) || !QFile::remove(filePath(name)))
+    if (!isOpen() || !isProgramName(name) || QFileInfo(m_path).isSymLink()
+        || !QFile::remove(filePath(name)))
         return false;
     note(name, QString());
     return true;
+}
+
+// At no time is there none of both.
+bool ProgramFolder::rename(const QString &name, const QString &newName) const
+{
+    QByteArray content;
+    QString refusal;
+    if (!isOpen() || !read(name, &content, &refusal))
+        return false;
+    const Saved saved = write(newName, content);
+    if (saved == Saved::Yes && remove(name))
+        return true;
+    if (saved != Saved::No)
+        remove(newName);
+    return false;
 }
 
 bool ProgramFolder::send(const QString &name) const
@@ -168,11 +201,7 @@ bool ProgramFolder::send(const QString &name) const
 
 ProgramFolder::Sent ProgramFolder::sent(const QString &name, const QByteArray &content) const
 {
-    QString problem;
-    const QJsonObject notes
-        = QJsonDocument::fromJson(contentOf(m_path + QStringLiteral("/sent.json"), &problem))
-              .object();
-    const QString last = notes.value(name).toString();
+    const QString last = notes().value(name).toString();
     if (last.isEmpty())
         return Sent::Never;
     return last == fingerprint(content) ? Sent::Same : Sent::Older;
@@ -183,15 +212,22 @@ QString ProgramFolder::filePath(const QString &name) const
     return m_path + QLatin1Char('/') + name + Suffix;
 }
 
+/** Fingerprints of what the controller got, by program. */
+QJsonObject ProgramFolder::notes() const
+{
+    QString problem;
+    return QJsonDocument::fromJson(contentOf(m_path + NotesFile, &problem)).object();
+}
+
 /** An empty fingerprint: the panel has no such program any more. */
 void ProgramFolder::note(const QString &name, const QString &fingerprint) const
 {
-    const QString path = m_path + QStringLiteral("/sent.json");
-    QString problem;
-    QJsonObject notes = QJsonDocument::fromJson(contentOf(path, &problem)).object();
+    QJsonObject notes = this->notes();
+    if (fingerprint.isEmpty() && !notes.contains(name))
+        return;
     if (fingerprint.isEmpty())
         notes.remove(name);
     else
         notes.insert(name, fingerprint);
-    ostrel::ModuleManager::writeToJson(path, notes, true);
+    ostrel::ModuleManager::writeToJson(m_path + NotesFile, notes, true);
 }

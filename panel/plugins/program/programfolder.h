@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,9 @@ public:
 
     /** On the controller: the text of the panel, another one, or, as far as is known, none. */
     enum class Sent { Same, Older, Never };
+
+    /** On the panel's disk; on it, but maybe not yet for good; as it was before. */
+    enum class Saved { Yes, Unconfirmed, No };
 
     /** That of the project that is open now. */
     static ProgramFolder ofOpenProject();
@@ -34,8 +38,10 @@ public:
     /** False where the program can't be shown, with the reason and what to do as a sentence. */
     bool read(const QString &name, QByteArray *content, QString *refusal) const;
     /** Old or new, never half. What went wrong is in the panel's log. */
-    bool write(const QString &name, const QByteArray &content) const;
+    Saved write(const QString &name, const QByteArray &content) const;
     bool remove(const QString &name) const;
+    /** To a name that no program has. On failure the program is there as it was. */
+    bool rename(const QString &name, const QString &newName) const;
 
     /** Copies the program to the controller. **Blocks** for up to 30 s. */
     bool send(const QString &name) const;
@@ -43,6 +49,7 @@ public:
 
 private:
     QString filePath(const QString &name) const;
+    QJsonObject notes() const;
     void note(const QString &name, const QString &fingerprint) const;
 
     QString m_project;

@@ -28,6 +28,7 @@ namespace
 {
 
 constexpr int MostVersions = 200;
+constexpr int MostRemembered = 16 * ProgramFolder::LargestFile; // bytes
 constexpr int ChoiceWidth = 280;
 
 bool isLive()
@@ -46,8 +47,9 @@ ProgramPage::ProgramPage(QWidget *parent)
     , m_choice(new QComboBox(this))
     , m_state(new StateLine(this))
     , m_view(new ProgramView(m_instructions, this))
-    , m_new(addButton([] { return tr("New program"); }, QStringLiteral("newProgram")))
-    , m_delete(addButton([] { return tr("Delete program"); }, QStringLiteral("deleteProgram")))
+    , m_new(addButton([] { return tr("New"); }, QStringLiteral("newProgram")))
+    , m_rename(addButton([] { return tr("Rename"); }, QStringLiteral("renameProgram")))
+    , m_delete(addButton([] { return tr("Delete"); }, QStringLiteral("deleteProgram")))
     , m_send(addButton([] { return tr("Send to the controller"); }, QStringLiteral("sendProgram"),
                        QStringLiteral("primary")))
 {
@@ -66,6 +68,7 @@ ProgramPage::ProgramPage(QWidget *parent)
     body()->addWidget(m_view, 1);
     body()->addWidget(makeKeys());
     connect(m_new, &QPushButton::clicked, this, &ProgramPage::askForNew);
+    connect(m_rename, &QPushButton::clicked, this, &ProgramPage::askToRename);
     connect(m_delete, &QPushButton::clicked, this, &ProgramPage::askToDelete);
     connect(m_send, &QPushButton::clicked, this, &ProgramPage::send);
     connect(m_choice, qOverload<int>(&QComboBox::activated), this, &ProgramPage::chooseProgram);
@@ -208,7 +211,7 @@ void ProgramPage::refreshChoice()
                               tr("Open one on the page \"Projects\"."));
     else if (m_name.isEmpty())
         m_view->setEmptyState(Glyph::List, tr("No programs yet"),
-                              tr("\"New program\" makes the first one of this project."));
+                              tr("\"New\" makes the first one of this project."));
     else if (!m_refusal.isEmpty())
         m_view->setEmptyState(Glyph::Warning, tr("It can't be shown"), m_refusal);
     else
@@ -247,6 +250,7 @@ void ProgramPage::refreshKeys()
     const bool chosen = shown && row >= 0;
     m_choice->setEnabled(!m_names.isEmpty());
     m_new->setEnabled(m_folder.isOpen());
+    m_rename->setEnabled(shown);
     m_delete->setEnabled(!m_name.isEmpty());
     m_send->setEnabled(shown && isLive() && !isRunning());
     m_insert->setEnabled(shown);
@@ -264,41 +268,67 @@ bool ProgramPage::isRunning() const
     return zepletInterface()->getRobotPhyStatus() == QLatin1String("program");
 }
 
-bool ProgramPage::change(const QStringList &lines, int row)
+bool ProgramPage::isChangedElsewhere() const
 {
-    const QByteArray content = programtext::contentOf(lines);
     QByteArray now;
     QString refusal;
-    if (content.size() > ProgramFolder::LargestFile) {
-        say(Tone::Error, tr("A program has at most 1 MiB, and nothing was changed: divide it."));
-        return false;
-    }
-    if (ProgramFolder::ofOpenProject() != m_folder || !m_folder.read(m_name, &now, &refusal)
-        || now != m_content) {
-        say(Tone::Warning,
-            tr("\"%1\" was changed elsewhere meanwhile, and your change was not made: look at it, "
-               "and change it again.")
-                .arg(m_name));
-        refresh();
-        return false;
-    }
-    if (!m_folder.write(m_name, content)) {
-        say(Tone::Error,
-            tr("\"%1\" could not be saved, and your change was not made: check the space on the "
-               "panel's disk, and try again.")
-                .arg(m_name));
-        refresh();
-        return false;
-    }
-    QVector<Version> versions = m_undo;
-    versions.append({m_lines, m_view->row()});
-    if (versions.size() > MostVersions)
-        versions.removeFirst();
-    say(Tone::Plain, QString());
+    return ProgramFolder::ofOpenProject() != m_folder || !m_folder.read(m_name, &now, &refusal)
+        || now != m_content;
+}
+
+bool ProgramPage::change(const QStringList &lines, int row)
+{
+    return save(programtext::contentOf(lines), row);
+}
+
+bool ProgramPage::save(const QByteArray &content, int row)
+{
+    if (content.size() > ProgramFolder::LargestFile)
+        return refuse(Tone::Error,
+                      tr("A program has at most 1 MiB, and nothing was changed: divide it."));
+    if (isChangedElsewhere())
+        return refuse(Tone::Warning,
+                      tr("\"%1\" was changed elsewhere meanwhile, and your change was not made: "
+                         "look at it, and change it again.")
+                          .arg(m_name));
+    const ProgramFolder::Saved saved = m_folder.write(m_name, content);
+    if (saved == ProgramFolder::Saved::No)
+        return refuse(Tone::Error,
+                      tr("\"%1\" could not be saved, and your change was not made: check the space "
+                         "on the panel's disk, and try again.")
+                          .arg(m_name));
+    say(Tone::Warning,
+        saved == ProgramFolder::Saved::Yes
+            ? QString()
+            : tr("\"%1\" is changed, but the panel's disk did not confirm it: check the disk "
+                 "before the panel is switched off.")
+                  .arg(m_name));
+    const QVector<Version> versions = m_undo + QVector<Version> {{m_content, m_view->row()}};
     showProgram(content, row);
-    m_undo = versions;
+    remember(versions);
     refresh();
     return true;
+}
+
+bool ProgramPage::refuse(Tone tone, const QString &sentence)
+{
+    say(tone, sentence);
+    refresh();
+    return false;
+}
+
+/** What can be undone, the latest of it. */
+void ProgramPage::remember(const QVector<Version> &versions)
+{
+    int bytes = 0;
+    int kept = 0;
+    while (kept < qMin(versions.size(), MostVersions)) {
+        bytes += versions.at(versions.size() - 1 - kept).content.size();
+        if (bytes > MostRemembered)
+            break;
+        ++kept;
+    }
+    m_undo = versions.mid(versions.size() - kept);
 }
 
 std::function<void(const QStringList &)>
@@ -339,24 +369,60 @@ void ProgramPage::chooseProgram()
     refresh();
 }
 
-void ProgramPage::askForNew()
+void ProgramPage::askForName(const QString &title, const QString &acceptText, const QString &name,
+                             std::function<void(const QString &)> named)
 {
-    auto *const form = new kit::Form(this, tr("New program"), tr("Create"));
-    const QLineEdit *const name = form->addText(tr("Name"), QStringLiteral("programName"));
+    auto *const form = new kit::Form(this, title, acceptText);
+    const QLineEdit *const edit = form->addText(tr("Name"), QStringLiteral("programName"), name);
     form->setValidation(
-        [=] { return ProgramFolder::nameRefusal(name->text().trimmed(), m_names); });
+        [=] { return ProgramFolder::nameRefusal(edit->text().trimmed(), m_names); });
     form->onAccepted([=, folder = m_folder] {
-        const QString chosen = name->text().trimmed();
-        if (folder != ProgramFolder::ofOpenProject() || !folder.write(chosen, QByteArray()))
-            return say(Tone::Error,
-                       tr("\"%1\" could not be made: check the space on the panel's disk, and "
-                          "that its project is still open.")
-                           .arg(chosen));
-        say(Tone::Plain, QString());
-        m_name = chosen;
+        const QString chosen = edit->text().trimmed();
+        // The disk knows better than the page what there is.
+        int left = 0;
+        const QString refusal = folder == m_folder && folder == ProgramFolder::ofOpenProject()
+            ? ProgramFolder::nameRefusal(chosen, folder.names(&left))
+            : tr("Another project is open meanwhile, and nothing was changed: try again.");
+        say(Tone::Warning, refusal);
+        if (refusal.isEmpty())
+            named(chosen);
         refresh();
     });
     form->open();
+}
+
+void ProgramPage::askForNew()
+{
+    askForName(tr("New program"), tr("Create"), QString(),
+               [this](const QString &name) { makeProgram(name); });
+}
+
+void ProgramPage::makeProgram(const QString &name)
+{
+    if (m_folder.write(name, QByteArray()) == ProgramFolder::Saved::No)
+        return say(Tone::Error,
+                   tr("\"%1\" could not be made: check the space on the panel's disk.").arg(name));
+    m_name = name;
+}
+
+void ProgramPage::askToRename()
+{
+    askForName(tr("Rename program"), tr("Rename"), m_name,
+               [this, old = m_name](const QString &name) { renameProgram(old, name); });
+}
+
+void ProgramPage::renameProgram(const QString &name, const QString &newName)
+{
+    if (!m_folder.rename(name, newName))
+        return say(Tone::Error,
+                   tr("\"%1\" could not be renamed, and keeps its name: check the panel's disk.")
+                       .arg(name));
+    say(Tone::Ok,
+        tr("\"%1\" is now \"%2\" on this panel. What was sent to the controller stays there under "
+           "the old name.")
+            .arg(name, newName));
+    if (m_name == name)
+        m_name = newName;
 }
 
 void ProgramPage::askToDelete()
@@ -381,7 +447,12 @@ void ProgramPage::send()
     const QString name = m_name;
     const ProgramFolder folder = m_folder;
     work(tr("Sending \"%1\"").arg(name), [=] {
-        if (!isLive() || isRunning())
+        if (name != m_name || isChangedElsewhere())
+            say(Tone::Warning,
+                tr("\"%1\" was changed elsewhere meanwhile, and was not sent: look at it, and send "
+                   "it again.")
+                    .arg(name));
+        else if (!isLive() || isRunning())
             say(Tone::Warning,
                 tr("\"%1\" was not sent: the link is lost, or a program runs. Send it again "
                    "later.")
@@ -482,7 +553,7 @@ void ProgramPage::undo()
         return;
     QVector<Version> versions = m_undo;
     const Version last = versions.takeLast();
-    if (!change(last.lines, last.row))
+    if (!save(last.content, last.row))
         return;
     m_undo = versions;
     refreshKeys();

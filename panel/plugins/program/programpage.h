@@ -29,7 +29,7 @@ protected:
 
 private:
     struct Version {
-        QStringList lines;
+        QByteArray content;
         int row;
     };
 
@@ -46,8 +46,12 @@ private:
     void refreshKeys();
 
     bool isRunning() const;
-    /** Saves the lines and shows them; false, with the reason told, where nothing was changed. */
+    bool isChangedElsewhere() const;
     bool change(const QStringList &lines, int row);
+    /** Saves the text and shows it; false, with the reason told, where nothing was changed. */
+    bool save(const QByteArray &content, int row);
+    bool refuse(kit::Tone tone, const QString &sentence);
+    void remember(const QVector<Version> &versions);
     /** What carries an edit out later, where the program is then still what it is now. */
     std::function<void(const QStringList &)>
     laterAt(std::function<void(const QStringList &lines)> edit);
@@ -57,7 +61,12 @@ private:
     void moveRow(int by);
 
     void chooseProgram();
+    void askForName(const QString &title, const QString &acceptText, const QString &name,
+                    std::function<void(const QString &name)> named);
     void askForNew();
+    void makeProgram(const QString &name);
+    void askToRename();
+    void renameProgram(const QString &name, const QString &newName);
     void askToDelete();
     void send();
     void insert();
@@ -84,6 +93,7 @@ private:
     StateLine *m_state;
     ProgramView *m_view;
     QPushButton *m_new;
+    QPushButton *m_rename;
     QPushButton *m_delete;
     QPushButton *m_send;
     QPushButton *m_insert = nullptr;

@@ -77,8 +77,11 @@ bool isControl(QChar c)
 QStringList linesOf(const QByteArray &content)
 {
     QStringList lines = QString::fromUtf8(content).split(QLatin1Char('\n'));
-    if (lines.last().isEmpty())
-        lines.removeLast();
+    const QString last = lines.takeLast();
+    if (last.isEmpty())
+        return lines;
+    const bool returns = !lines.isEmpty() && endsInReturn(lines.last()) && !endsInReturn(last);
+    lines.append(returns ? last + QLatin1Char('\r') : last);
     return lines;
 }
 

@@ -9,7 +9,8 @@ namespace programtext
 
 constexpr int LongestLine = 1000; // characters
 
-/** The lines without their line feeds; a carriage return stays with its line. */
+/** The lines without their line feeds; a carriage return stays with its line. A last line that
+ * lacks its end gets that of the line before. */
 QStringList linesOf(const QByteArray &content);
 QByteArray contentOf(const QStringList &lines);
 

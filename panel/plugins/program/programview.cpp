@@ -38,8 +38,10 @@ QVariant ProgramModel::data(const QModelIndex &index, int role) const
     const QString line = programtext::shown(m_lines.value(index.row()));
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return line;
+    case Qt::ToolTipRole: // as it is, never as markup
+        return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
+            .arg(line.left(programtext::LongestLine).toHtmlEscaped());
     case Qt::UserRole:
         return m_instructions->typeOf(line);
     default:

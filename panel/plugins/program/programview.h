@@ -8,7 +8,7 @@
 class Instructions;
 
 /** The lines of a program with what is known of them: Qt::UserRole is a line's type, the tool tip
- *  its whole text. */
+ *  its text, as far as a line may be long. */
 class ProgramModel : public QAbstractListModel
 {
     Q_OBJECT

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <brisa/basecontentwidget.h>
 #include <brisa/rlmanager.h>
+#include <cerrno>
 #include <ostrel/moduleobject.h>
 #include <stdexcept>
 #include <sys/stat.h>

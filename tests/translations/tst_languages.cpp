@@ -153,7 +153,7 @@ private Q_SLOTS:
                                    {"program", "", "newProgram"},
                                    {"projects", "cell", "removeProject"},
                                    {"signals", "", "simulateInputs"},
-                                   {"program", "", "newProgram"},
+                                   {"program", "", "renameProgram"},
                                    {"program", "", "deleteProgram"},
                                    {"program", "", "insertLine"}};
         for (const QStringList &form : forms)

@@ -19,6 +19,7 @@ MISSING = {
 }
 PROGRAMS = {"cmake": "cmake", "ninja": "ninja-build"}
 COMPILERS = ("c++", "g++", "clang++")
+UNFIT = re.compile(r'[\x00-\x1f\x7f"#$;<>\\|]')  # what CMake or Ninja takes for something else
 
 
 def add_arguments(_):
@@ -46,6 +47,7 @@ def build(kit, project, target="all"):
 def configure(kit, project):
     """Lets CMake make the build, with this kit; a build that has it already is left alone."""
     check_tools()
+    check_path(project.root)
     cache = project.cache()
     other = cache.get("CMAKE_HOME_DIRECTORY", str(project.root))
     if os.path.realpath(other) != os.path.realpath(project.root):
@@ -77,6 +79,14 @@ def check_tools():
             raise Problem(f"{program} is missing: install the package {package}.")
     if not os.environ.get("CXX") and not any(shutil.which(name) for name in COMPILERS):
         raise Problem("A C++ compiler is missing: install the package g++.")
+
+
+def check_path(root):
+    """In some directories a build fails with messages that nobody understands, or beside it."""
+    unfit = UNFIT.search(str(root))
+    if unfit:
+        raise Problem(f"CMake can't build in a directory whose path contains {unfit.group()!r}: "
+                      f"move {str(root)!r} to another one.")
 
 
 def explain(output):

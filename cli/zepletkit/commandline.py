@@ -2,6 +2,7 @@
 
 import argparse
 import difflib
+import errno
 import importlib
 import importlib.util
 import os
@@ -54,20 +55,40 @@ def guarded(function):
     for number in (signal.SIGTERM, signal.SIGHUP):
         signal.signal(number, terminate)
     signal.signal(signal.SIGTTIN, signal.SIG_IGN)  # in the background nobody types
+    sys.stdout.reconfigure(errors="backslashreplace")  # a path may have any bytes
     try:
         code = function()
         sys.stdout.flush()
     except BrokenPipeError:  # whoever read our lines has seen enough
-        os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
+        drop_output()
         return 1
     except Problem as problem:
         print(f"zeplet: {problem}", file=sys.stderr)
         return problem.code
+    except OSError as error:
+        print(f"zeplet: {sentence(error)}", file=sys.stderr)
+        drop_output()
+        return 1
     except KeyboardInterrupt:
         return 128 + signal.SIGINT
     except Terminated as ended:
         return 128 + ended.args[0]
     return 128 - code if code < 0 else code  # a child that died of a signal
+
+
+def drop_output():
+    """What was not printed yet would fail once more at the end."""
+    os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
+
+
+def sentence(error):
+    """What the system refused, for a person."""
+    what = f"{error.filename} can't be used" if error.filename else "A file can't be used"
+    remedy = {errno.ENOSPC: "make room on the disk", errno.EDQUOT: "make room on the disk",
+              errno.EACCES: "correct its permissions", errno.EPERM: "correct its permissions",
+              errno.EROFS: "work in a directory that can be written"}
+    return (f"{what}: {error.strerror or error}; {remedy.get(error.errno, 'correct that')}, then try "
+            "again.")
 
 
 def terminate(number, _):

@@ -11,7 +11,7 @@ import tempfile
 from pathlib import Path
 
 from .architecture import FIRST_NAME_OF_GNU, Architecture
-from .build import check_tools, packages
+from .build import check_path, check_tools, packages
 from .plugintag import read_tag
 from .problem import Problem
 from .project import Project
@@ -29,6 +29,7 @@ def add_arguments(parser):
 def run(arguments):
     project = Project.needed("pack")
     check_tools()
+    check_path(project.root)
     output = project.root / arguments.output
     output.mkdir(parents=True, exist_ok=True)
     skipped = []

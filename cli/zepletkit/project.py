@@ -19,7 +19,10 @@ class Project:
     @classmethod
     def here(cls):
         """The project that the current directory belongs to; None outside of one."""
-        here = Path.cwd()
+        try:
+            here = Path.cwd()
+        except FileNotFoundError:
+            raise Problem("The current directory was removed: go to another one.") from None
         for directory in (here, *here.parents):
             if cls._adds_plugin(directory / "CMakeLists.txt"):
                 return cls(directory)

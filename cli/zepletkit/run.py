@@ -11,6 +11,7 @@ The robot's state stays from one run to the next; what runs lives in .zeplet/.
 import argparse
 import contextlib
 import fcntl
+import json
 import subprocess
 import time
 from pathlib import Path
@@ -54,12 +55,13 @@ def duration(text):
 
 def run(arguments):
     project = Project.needed("run")
+    watch = Watch(project.root) if arguments.watch else None  # from what is going to be built
     build(arguments.kit, project, "zeplet_plugins")
     if project.main_plugin() is None:
         raise Problem("The build made no plugin: zeplet_add_plugin() in CMakeLists.txt adds one.")
     project.runtime.mkdir(exist_ok=True)
     with alone(project):
-        return Run(arguments, project).play()
+        return Run(arguments, project).play(watch)
 
 
 @contextlib.contextmanager
@@ -84,14 +86,14 @@ class Run:
         self._console = None
         self._end = None
         self._build_failed = False
+        self._loaded = None  # the libraries that the panel was started with
 
-    def play(self):
+    def play(self, watch):
         arguments, project = self._arguments, self._project
         scenario = arguments.scenario or arguments.kit.scenario("demo.json")
         state = project.runtime / "simulator.json"
         if arguments.fresh:
             state.unlink(missing_ok=True)
-        watch = Watch(project.root) if arguments.watch else None
         with Session(arguments.kit, project.runtime, scenario, state=state) as session:
             self._session = session
             tell_where_panel_is()
@@ -108,8 +110,8 @@ class Run:
                 self._console.join()
                 if not watch or self._end is not None or panel.returncode >= 0:
                     return self._ended(panel.returncode)
-                print(f"zeplet: The panel {processes.cause_of_end(panel.returncode)}. It starts "
-                      "again when you save.", flush=True)
+                print(f"zeplet: The panel {self._cause(panel)}. It starts again when you save.",
+                      flush=True)
                 self._session.panel = None
             if watch and watch.saved():
                 watch.take()
@@ -128,12 +130,12 @@ class Run:
             words += ["--screenshot", arguments.screenshot.absolute()]
         if arguments.language:
             words += ["--language", arguments.language]
+        self._loaded = self._project.libraries()
         panel = self._session.open_panel(words, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                          stderr=subprocess.STDOUT)
         self._console = Console(panel, arguments.verbose)
 
     def _rebuild(self):
-        before = self._project.libraries()
         print("zeplet: Building what you saved.", flush=True)
         try:
             build(self._arguments.kit, self._project, "zeplet_plugins")
@@ -142,7 +144,7 @@ class Run:
             print(f"zeplet: {problem} The panel stays as it is.", flush=True)
             return
         self._build_failed = False
-        if self._session.panel is not None and self._project.libraries() == before:
+        if self._session.panel is not None and self._project.libraries() == self._loaded:
             return  # a test, a text: nothing that the panel has loaded
         if not self._session.close_panel():
             print("zeplet: The panel did not end in order.", flush=True)
@@ -152,8 +154,18 @@ class Run:
 
     def _ended(self, code):
         if code < 0:
-            raise Problem(f"The panel {processes.cause_of_end(code)}.")
+            raise Problem(f"The panel {self._cause(self._session.panel)}.")
         return code
+
+    def _cause(self, panel):
+        """Why the panel died and, where a plugin was being started, in which step of its life."""
+        cause = processes.cause_of_end(panel.returncode)
+        try:  # the panel's note on what it does
+            note = (self._project.runtime / "starting").read_bytes().split(b"\0")[0]
+            step = json.loads(note)
+            return f"{cause} in {step['step']} of {step['plugin']}"
+        except (OSError, ValueError, KeyError, TypeError):
+            return cause
 
     def _judge(self):
         """Whether what ran was the plugin as its sources are: a script relies on the exit code."""

@@ -163,6 +163,26 @@ class WrongUse(unittest.TestCase):
                 self.assertEqual(found, code, text)
                 self.assertIn(sentence, text)
 
+    def test_unfit_directories(self):
+        for name in ("a;b", "a#b", "a|b", "a\nb"):
+            with self.subTest(name):
+                home = WORK / "unfit" / name
+                home.mkdir(parents=True)
+                zeplet("new", "plugin", directory=home)
+                code, text = zeplet("test", directory=home / "plugin")
+                self.assertEqual((code, text.count("\n")), (1, 1), text)
+                self.assertIn("CMake can't build in a directory whose path contains", text)
+                shutil.rmtree(home)
+                self.assertEqual(list(home.parent.iterdir()), [])  # "a;b" was a list of paths
+
+    def test_full_disk(self):
+        with open("/dev/full", "w", encoding="utf-8") as full:
+            done = subprocess.run([ZEPLET, "--help"], stdout=full, stderr=subprocess.PIPE, text=True,
+                                  check=False)
+        self.assertEqual((done.returncode, done.stderr),
+                         (1, "zeplet: A file can't be used: No space left on device; make room on "
+                             "the disk, then try again.\n"))
+
 
 class Tour(unittest.TestCase):
     """From nothing to a plugin that is edited while it runs; in the order of the names."""
@@ -233,7 +253,7 @@ class Tour(unittest.TestCase):
         page = PROJECT / ".zeplet/page"
         self.source_with("    if (m_motors->text().isEmpty()) std::abort();\n")
         run = self.start()
-        run.wait_for("The panel died of SIGABRT. It starts again when you save.")
+        run.wait_for("The panel died of SIGABRT in init of my-gripper. It starts again when")
         page.write_text("zeplet.page-run\n", encoding="utf-8")  # as if the author had gone there
         self.source_with("")
         run.wait_for("The panel runs what you saved.")

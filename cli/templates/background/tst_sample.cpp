@@ -6,7 +6,7 @@
 using zeplet::test::TestPanel;
 
 /** The plugin in a panel with a simulated robot, whose motors are on at the start. */
-class TestSample : public QObject
+class SampleTest : public QObject
 {
     Q_OBJECT
 
@@ -26,5 +26,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSample)
+QTEST_MAIN(SampleTest)
 #include "tst_sample.moc"

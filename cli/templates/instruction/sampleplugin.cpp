@@ -33,6 +33,7 @@ public:
         m_times->setObjectName("times");
         m_times->setRange(1, 100);
         auto *layout = new QHBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0); // whoever shows it has margins
         layout->addWidget(new QLabel(tr("Times")));
         layout->addWidget(m_times);
         layout->addStretch();
@@ -118,7 +119,11 @@ void SamplePlugin::createPage()
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    layout->addWidget(new QLabel(tr("The page Program can insert this instruction:")));
+    auto *text = new QLabel(tr("The page Program can insert the instruction %1. To try it here, "
+                               "change the number: the line below is what goes into the program.")
+                                .arg(instruction));
+    text->setWordWrap(true);
+    layout->addWidget(text);
     layout->addWidget(content);
     layout->addWidget(line);
     layout->addStretch();

@@ -11,7 +11,7 @@
 using zeplet::test::TestPanel;
 
 /** The plugin in a panel with a simulated robot. */
-class TestSample : public QObject
+class SampleTest : public QObject
 {
     Q_OBJECT
 
@@ -47,5 +47,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSample)
+QTEST_MAIN(SampleTest)
 #include "tst_sample.moc"

@@ -28,17 +28,27 @@ QString currentProject()
     return m(QStringLiteral("tavik.project.cur_project"))->getStr(QString());
 }
 
+QString orNothing(const QStringList &parts)
+{
+    return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
+}
+
 QString counted(const QJsonObject &counts)
 {
     QStringList parts;
     for (auto count = counts.begin(); count != counts.end(); ++count)
         parts += QStringLiteral("%1 (%2)").arg(count.key()).arg(count->toInt());
-    return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
+    return orNothing(parts);
+}
+
+QString textOf(const QAbstractButton *button)
+{
+    return button->text().remove(QLatin1Char('&'));
 }
 
 bool isNamed(const QAbstractButton *button, const QString &name)
 {
-    return button->objectName() == name || button->text().remove(QLatin1Char('&')) == name;
+    return button->objectName() == name || textOf(button) == name;
 }
 
 void scrollTo(QWidget *widget)
@@ -55,6 +65,13 @@ class TestPanel::Private : public PanelSite
 {
 public:
     using PanelSite::PanelSite;
+
+    /** Else with the reason in problem. */
+    bool isStarted()
+    {
+        return (session && simulator && bus)
+            || fail(problem.isEmpty() ? QStringLiteral("The panel was not started.") : problem);
+    }
 };
 
 TestPanel::TestPanel(const PanelSetup &setup)
@@ -84,8 +101,10 @@ QWidget *TestPanel::window() const
 
 QWidget *TestPanel::page(const QString &plugin)
 {
+    if (!d->isStarted())
+        return nullptr;
     const QString key = QStringLiteral("zeplet.") + plugin;
-    if (!d->session || !d->session->window().showPage(key)) {
+    if (!d->session->window().showPage(key)) {
         d->fail(QStringLiteral("There is no page of a plugin \"%1\"; there run: %2.")
                     .arg(plugin, d->plugins().join(QStringLiteral(", "))));
         return nullptr;
@@ -101,26 +120,36 @@ QWidget *TestPanel::page(const QString &plugin)
 
 bool TestPanel::click(QWidget *in, const QString &text)
 {
+    if (!in)
+        return d->fail(QStringLiteral("There is no widget to find the button \"%1\" in. %2")
+                           .arg(text, d->problem)
+                           .trimmed());
     QStringList there;
-    const auto buttons = in ? in->findChildren<QAbstractButton *>() : QList<QAbstractButton *>();
-    for (QAbstractButton *const button : buttons) {
-        if (!button->isVisible() || !button->isEnabled())
+    bool isDisabled = false;
+    for (QAbstractButton *const button : in->findChildren<QAbstractButton *>()) {
+        if (!button->isVisible())
             continue;
+        if (!button->isEnabled()) {
+            isDisabled = isDisabled || isNamed(button, text);
+            continue;
+        }
         if (isNamed(button, text)) {
             scrollTo(button);
             QTest::mouseClick(button, Qt::LeftButton);
             return true;
         }
-        there += button->text().isEmpty() ? button->objectName() : button->text();
+        there += button->text().isEmpty() ? button->objectName() : textOf(button);
     }
+    if (isDisabled)
+        return d->fail(QStringLiteral("The button \"%1\" is disabled.").arg(text));
     return d->fail(QStringLiteral("No button \"%1\" can be clicked; there can: %2.")
-                       .arg(text, there.join(QStringLiteral(", "))));
+                       .arg(text, orNothing(there)));
 }
 
 bool TestPanel::waitForEvent(ZepletEventType type, ZepletEvent *event, int timeout)
 {
-    if (!d->bus)
-        return d->fail(QStringLiteral("The panel was not started."));
+    if (!d->isStarted())
+        return false;
     if (!QTest::qWaitFor([&] { return d->bus->last(type).has_value(); }, timeout))
         return d->fail(QStringLiteral("No event %1 came within %2 ms; there came: %3.")
                            .arg(eventTypeToString(type))
@@ -142,10 +171,11 @@ void TestPanel::clearEvents()
 
 bool TestPanel::expectRequest(const QString &command, QJsonValue *arguments, int timeout)
 {
+    if (!d->isStarted())
+        return false;
     if (!QTest::qWaitFor([&] { return requests(command) > 0; }, timeout)) {
-        const QJsonObject counts = d->simulator
-            ? d->simulator->call([](simulator::Simulator &s) { return s.requests().counts(); })
-            : QJsonObject();
+        const QJsonObject counts
+            = d->simulator->call([](simulator::Simulator &s) { return s.requests().counts(); });
         return d->fail(QStringLiteral("No request %1 came within %2 ms; there came: %3.")
                            .arg(command)
                            .arg(timeout)

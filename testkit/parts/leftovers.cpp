@@ -109,6 +109,16 @@ QStringList heldBy(const QString &plugin)
                            "in detach().")};
 }
 
+/** What its author knows it by. */
+QString nameOf(const QWidget *window)
+{
+    for (const QString &name : {window->windowTitle(), window->objectName()}) {
+        if (!name.isEmpty())
+            return name;
+    }
+    return QLatin1String(window->metaObject()->className());
+}
+
 } // namespace
 
 Leftovers::Leftovers(const BusWatch &bus, SimulatorFixture &simulator, const QWidget *window)
@@ -218,7 +228,7 @@ QStringList Leftovers::compare(const Sight &now)
                                         "a plugin that is gone. Turn it off in detach()."));
     for (const QWidget *const window : now.windows - before.windows)
         sentences += QStringLiteral("The window \"%1\" is still open: delete it in detach().")
-                         .arg(window->windowTitle());
+                         .arg(nameOf(window));
     if (now.modalWindows != before.modalWindows)
         sentences += QStringLiteral("The count of modal windows is off by %1: change it with "
                                     "ChangeModelWindowStatus() alone.")

@@ -139,7 +139,10 @@ private Q_SLOTS:
         TestPanel panel;
         START(panel);
         QVERIFY(!panel.click(panel.page("mannered"), "Open"));
-        QCOMPARE(panel.problem(), QString("No button \"Open\" can be clicked; there can: &Close."));
+        QCOMPARE(panel.problem(), QString("No button \"Open\" can be clicked; there can: Close."));
+        QVERIFY(!panel.click(panel.page("absent"), "Close")); // the page's problem is not lost
+        QVERIFY2(panel.problem().contains("no page of a plugin \"absent\""),
+                 qPrintable(panel.problem()));
         panel.clearEvents();
         const auto custom = zeplet::zepletEvent()->registerCustomEventType("Gripped");
         zeplet::zepletEvent()->publish(custom);

@@ -1,5 +1,7 @@
 """Builds the plugin in this directory, and its tests, into build/."""
 
+import contextlib
+import fcntl
 import os
 import re
 import shutil
@@ -34,14 +36,28 @@ def run(arguments):
 
 def build(kit, project, target="all"):
     """Configures where that is necessary, and builds; errors of the compiler go to the terminal."""
-    configure(kit, project)
-    command = ["cmake", "--build", project.build, "--target", target]
-    if processes.run(command) != 0:
-        raise Problem("The build failed: the messages above say why.")
-    if (project.build / "build.ninja").exists():
-        # A plugin that was renamed would be loaded under its former name, too.
-        subprocess.run(["ninja", "-C", project.build, "-t", "cleandead"], stdin=subprocess.DEVNULL,
-                       stdout=subprocess.DEVNULL, check=False)
+    with alone(project):
+        configure(kit, project)
+        command = ["cmake", "--build", project.build, "--target", target]
+        if processes.run(command) != 0:
+            raise Problem("The build failed: the messages above say why.")
+        if (project.build / "build.ninja").exists():
+            # A plugin that was renamed would be loaded under its former name, too.
+            subprocess.run(["ninja", "-C", project.build, "-t", "cleandead"],
+                           stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, check=False)
+
+
+@contextlib.contextmanager
+def alone(project):
+    """Two builds at a time would write the same files: "zeplet test" waits for the build of a
+    "zeplet run" that has just seen a save."""
+    project.build.mkdir(exist_ok=True)
+    directory = os.open(project.build, os.O_RDONLY)
+    try:
+        fcntl.flock(directory, fcntl.LOCK_EX)
+        yield
+    finally:
+        os.close(directory)
 
 
 def configure(kit, project):

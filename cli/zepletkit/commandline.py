@@ -1,12 +1,14 @@
 """The command line: picks the command, and turns what goes wrong into sentences and exit codes."""
 
 import argparse
+import contextlib
 import difflib
 import errno
 import importlib
 import importlib.util
 import os
 import signal
+import subprocess
 import sys
 
 from .kit import Kit
@@ -61,10 +63,16 @@ def guarded(function):
         sys.stdout.flush()
     except BrokenPipeError:  # whoever read our lines has seen enough
         drop_output()
+        with contextlib.suppress(OSError):  # nor does anybody, perhaps, read the errors
+            print("zeplet: It stopped, because nobody reads what it prints any more.",
+                  file=sys.stderr, flush=True)
         return 1
     except Problem as problem:
         print(f"zeplet: {problem}", file=sys.stderr)
         return problem.code
+    except subprocess.CalledProcessError as failed:
+        print(f"zeplet: {sentence_on_program(failed)}", file=sys.stderr)
+        return 1
     except OSError as error:
         print(f"zeplet: {sentence(error)}", file=sys.stderr)
         drop_output()
@@ -89,6 +97,13 @@ def sentence(error):
               errno.EROFS: "work in a directory that can be written"}
     return (f"{what}: {error.strerror or error}; {remedy.get(error.errno, 'correct that')}, then try "
             "again.")
+
+
+def sentence_on_program(failed):
+    """That a program failed which the tool called, and what it said."""
+    words = failed.cmd if isinstance(failed.cmd, (list, tuple)) else [failed.cmd]
+    said = (failed.stderr or failed.output or "").strip()
+    return f'"{" ".join(str(word) for word in words)}" failed{": " + said if said else "."}'
 
 
 def terminate(number, _):

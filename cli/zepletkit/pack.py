@@ -101,8 +101,8 @@ def environment_of(project, architecture):
     for variable, names in FLAGS.items():
         environment[variable] = " ".join(
             subprocess.run(["dpkg-buildflags", "--get", name], cwd=project, env=environment,
-                           check=True, text=True, stdout=subprocess.PIPE,
-                           stderr=subprocess.DEVNULL).stdout.strip() for name in names)
+                           check=True, text=True, capture_output=True).stdout.strip()
+            for name in names)
     environment.setdefault("SOURCE_DATE_EPOCH", str(last_change(project)))
     return environment
 
@@ -122,7 +122,7 @@ def last_change(project):
 def call(what, architecture, command, environment):
     """Shows what the program prints only where it fails."""
     done = subprocess.run([str(word) for word in command], env=environment, text=True,
-                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          errors="replace", stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT, check=False)
     if done.returncode != 0:
         if "version is missing" in done.stdout:
@@ -136,7 +136,8 @@ def call(what, architecture, command, environment):
 def check(kit, architecture, package):
     """The tags of the package's plugins, all of which fit."""
     with tempfile.TemporaryDirectory() as directory:
-        subprocess.run(["dpkg-deb", "-x", package, directory], check=True)
+        subprocess.run(["dpkg-deb", "-x", package, directory], check=True, text=True,
+                       capture_output=True)
         place = Path(directory, "usr/lib", architecture.triplet, "zeplet/plugins")
         tags = [read_tag(library) for library in sorted(place.glob("*.so"))]
     if not tags:

@@ -287,6 +287,20 @@ class Tour(unittest.TestCase):
         self.assertFalse((PROJECT / "build/plugins/my-gripper.so").exists())
         self.assertTrue((PROJECT / "build/plugins/renamed.so").exists())
 
+    def test_8_save_during_build(self):
+        zeplet("new", "saved")
+        source = WORK / "saved/savedplugin.cpp"
+        launcher = WORK / "launcher"
+        launcher.write_text(f'#!/bin/sh\n[ -e seen ] || echo // >>{source}\ntouch seen\nexec "$@"\n',
+                            encoding="utf-8")
+        launcher.chmod(0o755)
+        environment = {**os.environ, "CMAKE_CXX_COMPILER_LAUNCHER": str(launcher)}
+        code, text = zeplet("build", directory=source.parent, env=environment)
+        self.assertEqual(code, 0, text)
+        for times in (1, 0):  # once more for the save, then no more
+            code, text = zeplet("build", directory=source.parent)
+            self.assertEqual((code, text.count("savedplugin.cpp.o")), (0, times), text)
+
 
 if __name__ == "__main__":
     BUILD = sys.argv.pop(1)

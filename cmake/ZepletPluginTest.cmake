@@ -77,6 +77,7 @@ function(zeplet_register_test name)
     endif()
     if(CMAKE_CROSSCOMPILING) # an emulator is slow
         math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
+        list(APPEND ARG_ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=${ARG_TIMEOUT}000")
     endif()
     add_test(NAME ${name} COMMAND ${ARG_COMMAND} WORKING_DIRECTORY ${directory})
     set_tests_properties(${name} PROPERTIES

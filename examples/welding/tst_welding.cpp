@@ -200,7 +200,8 @@ void TestWelding::looksAsDesigned()
     form->resize(480, 300);
     form->show();
     QVERIFY(!form->CheckInsert());
-    const QString difference = comparePicture(form.get(), picture);
+    // A processor of another kind rounds a few pixels of a curve otherwise.
+    const QString difference = comparePicture(form.get(), picture, 0.0002);
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 

@@ -42,8 +42,8 @@ public:
     bool start()
     {
         QString error;
-        return session->start(&error) && QTest::qWaitForWindowExposed(&window())
-            && QTest::qWaitFor([] { return isConnected(); });
+        return session->start(&error) && QTest::qWaitForWindowExposed(&window(), 60000)
+            && QTest::qWaitFor([] { return isConnected(); }, 60000);
     }
 
     static bool isConnected()
@@ -131,12 +131,14 @@ private:
     {
         QImage last;
         int same = 0;
-        const bool still = QTest::qWaitFor([&] {
-            const QImage now = window().grab().toImage();
-            same = now == last ? same + 1 : 0;
-            last = now;
-            return same >= 3 && isStyled();
-        });
+        const bool still = QTest::qWaitFor(
+            [&] {
+                const QImage now = window().grab().toImage();
+                same = now == last ? same + 1 : 0;
+                last = now;
+                return same >= 3 && isStyled();
+            },
+            60000);
         return still ? last : QImage();
     }
 

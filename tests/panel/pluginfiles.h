@@ -30,6 +30,20 @@ inline QByteArray patched(const QString &fixture, const QByteArray &from, const 
     return content.replace(at, from.size(), to);
 }
 
+#if defined(__aarch64__)
+constexpr char machine[] = "aarch64", otherMachine[] = "x86_64";
+constexpr char head[] = "\3\0\xb7", otherHead[] = "\3\0\x3e"; // ELF: a shared object, its machine
+#else
+constexpr char machine[] = "x86_64", otherMachine[] = "aarch64";
+constexpr char head[] = "\3\0\x3e", otherHead[] = "\3\0\xb7";
+#endif
+
+/** The fixture as if it were built for the other machine. */
+inline QByteArray foreign(const QString &fixture)
+{
+    return patched(fixture, {head, sizeof head}, {otherHead, sizeof otherHead});
+}
+
 inline void write(const QString &directory, const QString &name, const QByteArray &content)
 {
     QFile file(QDir(directory).filePath(name));

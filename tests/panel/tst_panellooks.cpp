@@ -289,12 +289,14 @@ private:
         const QString page = instantiatedCenterWidget()->currentKey();
         QImage last;
         int same = 0;
-        QVERIFY(QTest::qWaitFor([&] {
-            const QImage now = widget->grab().toImage();
-            same = now == last ? same + 1 : 0;
-            last = now;
-            return same >= 3 && (page == "panel.home" || hasTheme(page));
-        }));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                const QImage now = widget->grab().toImage();
+                same = now == last ? same + 1 : 0;
+                last = now;
+                return same >= 3 && (page == "panel.home" || hasTheme(page));
+            },
+            60000));
     }
 
     static bool hasTheme(const QString &page)

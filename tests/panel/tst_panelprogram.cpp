@@ -36,7 +36,7 @@ private Q_SLOTS:
     {
         QProcess panel;
         start(&panel, {});
-        QTRY_VERIFY(logText().contains("The panel is running."));
+        QTRY_VERIFY_WITH_TIMEOUT(logText().contains("The panel is running."), 60000);
         kill(pid_t(panel.processId()), SIGTERM);
         QVERIFY(panel.waitForFinished());
         QCOMPARE(panel.exitStatus(), QProcess::NormalExit);

@@ -217,7 +217,7 @@ private:
               "emptyfactory", "throwingfactory", "throwinginit", "throwingload", "crashingload",
               "hangingload", "endingload"})
             copy(plugins, fixture);
-        write(plugins, "foreign.so", patched("sound", {"\3\0\x3e\0", 4}, {"\3\0\xb7\0", 4}));
+        write(plugins, "foreign.so", pluginfiles::foreign("sound"));
         write(plugins, "otherqt.so", patched("sound", "qt=5.15.", "qt=5.99."));
         write(plugins, "otherlibrary.so", patched("sound", "library=1.0.", "library=1.9."));
         write(plugins, "nolibrary.so", "text");

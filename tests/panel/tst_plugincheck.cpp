@@ -19,6 +19,8 @@ private Q_SLOTS:
         const auto patched = [](const QByteArray &from, const QByteArray &to) {
             return pluginfiles::patched(QStringLiteral("sound"), from, to);
         };
+        const QByteArray tagged = QByteArray("=") + pluginfiles::machine;
+        const QString here = QStringLiteral(" and this panel is %1: ").arg(pluginfiles::machine);
         const QByteArray sound = bytes(QStringLiteral("sound"));
         const char *noWord = "x.so has a name in its tag that is not a plain word: ";
         const char *damaged = "x.so has a damaged plugin tag: ";
@@ -30,9 +32,11 @@ private Q_SLOTS:
             {"", "x.so is not a library: "},
             {sound.left(sound.size() / 2), "x.so is cut short: "},
             {bytes(QStringLiteral("untagged")), "x.so has no plugin tag, "},
-            {patched({"\3\0\x3e\0", 4}, {"\3\0\xb7\0", 4}),
-             "x.so was built for aarch64 and this panel is x86_64: "},
-            {patched("=x86_64", "=sparc9"), "x.so was built for sparc9 and this panel is x86_64: "},
+            {pluginfiles::foreign(QStringLiteral("sound")),
+             QStringLiteral("x.so was built for ") + pluginfiles::otherMachine + here},
+            {patched(tagged, QByteArray("=sparc99").left(tagged.size())),
+             QStringLiteral("x.so was built for ") + QByteArray("sparc99").left(tagged.size() - 1)
+                 + here},
             {patched("library=1.0.", "library=1.9."),
              "x.so was built against version 1.9.2 of the plugin library and this panel has "
              "1.0.2: build it against 1.0.2."},

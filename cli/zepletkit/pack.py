@@ -11,7 +11,7 @@ import tempfile
 from pathlib import Path
 
 from .architecture import FIRST_NAME_OF_GNU, Architecture
-from .build import check_path, check_tools, packages
+from .build import alone, check_path, check_tools, packages
 from .plugintag import read_tag
 from .problem import Problem
 from .project import Project
@@ -38,7 +38,8 @@ def run(arguments):
         if missing:
             skipped.append(advice(architecture, missing, arguments.kit.version))
         else:
-            pack(arguments.kit, project, architecture, output)
+            with alone(project):
+                pack(arguments.kit, project, architecture, output)
     for sentence in skipped:
         print(sentence)
     # Left out by itself is news; left out although it was asked for, or all of them, is a failure.

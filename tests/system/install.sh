@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs a build into an empty prefix and uses it as an author and an integrator do: a plugin of each
-# template is made and packed, the examples build alone against it, and the library builds against the
-# installed host.
+# Installs a build into an empty prefix and uses it as an author and an integrator do: its panel loads the
+# examples, two of them build alone against it and pass their tests, a plugin is made and packed, and the
+# library builds against the installed host. script/packages --check does so with all templates and
+# examples.
 # Further words go to CMake where a plugin is configured. ZEPLET_EMULATOR starts what was built.
 set -euo pipefail
 build=${1:?usage: install.sh BUILD_DIRECTORY [OPTION ...]}
@@ -28,57 +29,44 @@ if [ "$(ls "$work/prefix/lib/zeplet/plugins")" != "$(sed 's/$/.so/' <<<"$example
     exit 1
 fi
 
-# Copies outside the project prove that each needs nothing but the installation, which each finds.
-# Their tests run in the tree; two show that they do here, too: one with next to nothing, one with all
-# that there is.
+# An installed panel loads them all, by itself; otherwise one loads just those in the directory.
+show() { # show EXAMPLES [OPTION ...]
+    local example expected=$1
+    shift
+    rm -rf "$work/run"
+    QT_QPA_PLATFORM=offscreen $emulator "$work/prefix/bin/zeplet-panel" --runtime "$work/run" --for 0.5 "$@"
+    for example in $expected; do
+        grep "'$example' init" "$work"/run/log/zeplet_*.log
+    done
+}
+show "$examples"
+
+# Copies outside the project prove that each needs nothing but the installation, which it finds: one
+# example with next to nothing, one with all that there is.
 mkdir "$work/alone"
-for example in $examples; do
-    cp -r "$root/examples/$example" "$work/alone/$example"
-done
+cp -r "$root/examples/status" "$root/examples/welding" "$work/alone"
 cat >"$work/alone/CMakeLists.txt" <<'EOF'
 cmake_minimum_required(VERSION 3.25)
 project(alone LANGUAGES CXX)
-enable_testing()
-file(GLOB examples */CMakeLists.txt)
-foreach(example IN LISTS examples)
-    get_filename_component(directory ${example} DIRECTORY)
-    set(BUILD_TESTING OFF)
-    if(tested AND directory MATCHES "/(status|welding)$")
-        set(BUILD_TESTING ON)
-    endif()
-    add_subdirectory(${directory})
-endforeach()
+include(CTest)
+add_subdirectory(status)
+add_subdirectory(welding)
 EOF
 tested=$([ -z "$emulator" ] && echo ON || echo OFF)
-cmake -S "$work/alone" -B "$work/alone/build" "${options[@]}" -Dtested="$tested" >/dev/null
+cmake -S "$work/alone" -B "$work/alone/build" "${options[@]}" -DBUILD_TESTING="$tested" >/dev/null
 cmake --build "$work/alone/build"
-[ "$tested" = OFF ] || ctest --test-dir "$work/alone/build" --output-on-failure --no-tests=error
-export QT_QPA_PLATFORM=offscreen
-$emulator "$work/prefix/bin/zeplet-panel" --runtime "$work/run" --plugins "$work/alone/build/plugins" \
-    --for 0.5
-for example in $examples; do
-    grep "'$example' init" "$work"/run/log/zeplet_*.log
-done
+[ "$tested" = OFF ] || ctest --test-dir "$work/alone/build" -j2 --output-on-failure --no-tests=error
+show "status welding" --plugins "$work/alone/build/plugins"
 
-# A plugin of each template is packed, and the panel loads it from what its package holds.
+# A plugin of a template is packed, and the panel loads it from what its package holds.
 pack_template() {
-    cd "$work" && zeplet new "new-$1" --template "$1" && cd "new-$1" &&
-        zeplet pack --arch "$(dpkg --print-architecture)" &&
-        dpkg-deb -x build/packages/*.deb "$work/packed"
+    export PATH=$work/prefix/bin:$PATH CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    cd "$work" && zeplet new made && cd made && zeplet pack --arch "$(dpkg --print-architecture)" &&
+        dpkg-deb -x build/packages/*.deb "$work/packed" &&
+        zeplet list --plugins "$work"/packed/usr/lib/*/zeplet/plugins | tee "$work/list.txt" &&
+        grep -q "^made .*running" "$work/list.txt"
 }
-if [ -z "$emulator" ]; then
-    (
-        export PATH=$work/prefix/bin:$PATH CMAKE_CXX_COMPILER_LAUNCHER=ccache
-        for template in page instruction background; do
-            pack_template "$template" >"$work/new-$template.txt" 2>&1 ||
-                { cat "$work/new-$template.txt"; exit 1; }
-        done
-        zeplet list --plugins "$work"/packed/usr/lib/*/zeplet/plugins | tee "$work/list.txt"
-        for template in page instruction background; do
-            grep -q "^new-$template .*running" "$work/list.txt"
-        done
-    )
-fi
+[ -n "$emulator" ] || (pack_template)
 
 # A name that a panel would refuse is refused when the plugin is configured.
 mkdir "$work/named"

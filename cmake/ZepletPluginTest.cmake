@@ -82,6 +82,7 @@ function(zeplet_register_test name)
     add_test(NAME ${name} COMMAND ${ARG_COMMAND} WORKING_DIRECTORY ${directory})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
+        COST ${ARG_TIMEOUT} # the longest start first, so that none is waited for alone in the end
         LABELS "${ARG_LABELS}"
         FAIL_REGULAR_EXPRESSION "QWARN |QCRITICAL|QFATAL"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;HOME=${directory}/home;XDG_RUNTIME_DIR=${directory}/home;${ARG_ENVIRONMENT}")

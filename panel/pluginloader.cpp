@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QLibrary>
+#include <algorithm>
 #include <brisa/languagemanager.h>
 #include <brisa/managerhelper.h>
 #include <kest/bmodule.h>
@@ -123,11 +124,27 @@ bool PluginLoader::isWelcome(PluginRecord *record) const
     }
     if (!bfactory().makers.contains(name))
         return true;
-    refuse(record,
-           tr("%1 registers the name \"%2\", which is taken: remove it, or give it a name of its "
-              "own.")
-               .arg(record->file.fileName(), name));
+    refuse(record, takenSentence(*record));
     return false;
+}
+
+QString PluginLoader::takenSentence(const PluginRecord &record) const
+{
+    const QString name = record.tag.name;
+    const auto first
+        = std::find_if(m_records.begin(), m_records.end(),
+                       [&name](const PluginRecord &other) { return other.modules.contains(name); });
+    if (first == m_records.end()) // the host's own, or of a library that was refused
+        return tr("%1 registers the name \"%2\", which is taken: remove it, or give it a name of "
+                  "its own.")
+            .arg(record.file.fileName(), name);
+    const bool together = first->file.absolutePath() == record.file.absolutePath();
+    const auto nameOf = [together](const QFileInfo &file) {
+        return together ? file.fileName() : file.absoluteFilePath();
+    };
+    return tr("%1 registers the name \"%2\", which %3 has already: remove one of the two, or give "
+              "one a name of its own.")
+        .arg(nameOf(record.file), name, nameOf(first->file));
 }
 
 void PluginLoader::load(int index)

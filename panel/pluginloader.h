@@ -42,6 +42,8 @@ public:
 
 private:
     bool isWelcome(PluginRecord *record) const;
+    /** The record's name is another one's: which, and what to do. */
+    QString takenSentence(const PluginRecord &record) const;
     void load(int index);
     void tryOut(int first);
     void open(PluginRecord *record);

@@ -1885,6 +1885,10 @@
         <source>%1 takes part again when the panel starts next.</source>
         <translation>%1 nimmt beim nächsten Start des Bedienpanels wieder teil.</translation>
     </message>
+    <message>
+        <source>%1 registers the name &quot;%2&quot;, which %3 has already: remove one of the two, or give one a name of its own.</source>
+        <translation>%1 registriert den Namen „%2“, den %3 schon hat: eines von beiden entfernen oder einem einen eigenen Namen geben.</translation>
+    </message>
 </context>
 <context>
     <name>panel::RunKeys</name>

@@ -1885,6 +1885,10 @@
         <source>%1 takes part again when the panel starts next.</source>
         <translation>%1 将在面板下次启动时重新参与。</translation>
     </message>
+    <message>
+        <source>%1 registers the name &quot;%2&quot;, which %3 has already: remove one of the two, or give one a name of its own.</source>
+        <translation>%1 注册的名称“%2”已被 %3 使用：请删除其中一个，或为其中一个改用自己的名称。</translation>
+    </message>
 </context>
 <context>
     <name>panel::RunKeys</name>

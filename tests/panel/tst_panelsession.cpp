@@ -36,7 +36,8 @@ private Q_SLOTS:
         writeSettings();
         fillPluginDirectory();
         panel::PanelOptions options;
-        options.pluginDirectories = QStringList {m_directory.filePath("plugins")};
+        options.pluginDirectories
+            = QStringList {m_directory.filePath("plugins"), m_directory.filePath("more")};
         options.runtimeDirectory = m_directory.filePath("run");
         options.settingsFile = m_directory.filePath("settings.json");
         options.loadLimit = 1500; // of the one that never returns
@@ -71,7 +72,9 @@ private Q_SLOTS:
              "unregistered.so registers no plugin named \"unregistered\""},
             {"misnamed.so", refused,
              "misnamed.so registers \"anothername\" but is tagged \"misnamed\": "},
-            {"twin.so", refused, "twin.so registers the name \"sound\", which is taken: "},
+            {"twin.so", refused,
+             "twin.so registers the name \"sound\", which sound.so has already: "},
+            {"farther.so", refused, "more/farther.so registers the name \"sound\", which /"},
             {"nullfactory.so", faulty, "'nullfactory' made no plugin; correct the plugin and "},
             {"emptyfactory.so", faulty, "\"emptyfactory\" failed in make: bad_function_call"},
             {"throwingfactory.so", faulty,
@@ -222,6 +225,8 @@ private:
         write(plugins, "otherlibrary.so", patched("sound", "library=1.0.", "library=1.9."));
         write(plugins, "nolibrary.so", "text");
         copy(plugins, "sound", "twin");
+        QVERIFY(QDir().mkpath(m_directory.filePath("more")));
+        copy(m_directory.filePath("more"), "sound", "farther");
         write(plugins, "half.so", bytes("sound").left(bytes("sound").size() / 2));
         write(plugins, "readme.txt", "not looked at");
     }

@@ -123,6 +123,11 @@ PluginRecord checkPlugin(const QFileInfo &info)
     record.file = info;
     const QString name = info.fileName();
     QFile file(info.absoluteFilePath());
+    if (info.isDir())
+        return refused(
+            record,
+            Texts::tr("%1 is a directory: put the plugin library itself there, or remove it.")
+                .arg(name));
     // Opening anything but a plain file may wait for ever.
     if (!info.isFile())
         return refused(

@@ -96,7 +96,8 @@ void PluginLoader::loadDirectory(const QString &path)
                "or start the panel with another one.")
                 .arg(path));
     const QFileInfoList files = directory.entryInfoList(
-        {QStringLiteral("*.so")}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
+        {QStringLiteral("*.so")},
+        QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::System | QDir::Hidden, QDir::Name);
     newModules(); // they are not of these libraries
     const int first = m_records.size();
     for (const QFileInfo &file : files)

@@ -26,9 +26,10 @@ public:
     /** The guard and the trial outlive this object. */
     PluginLoader(StartGuard &guard, LoadTrial &trial, QObject *parent = nullptr);
 
-    /** Loads every library (*.so) of the directory, in the order of their names. A directory that
-     *  can't be read is said to the operator. Runs the libraries' initialisers, those of unknown
-     *  libraries in a child first; blocks for both and for the disk. */
+    /** Loads every library (*.so) of the directory, in the order of their names; what else bears
+     *  such a name gets a record, too. A directory that can't be read is said to the operator. Runs
+     *  the libraries' initialisers, those of unknown libraries in a child first; blocks for both
+     * and for the disk. */
     void loadDirectory(const QString &path);
 
     const QList<PluginRecord> &records() const;

@@ -1731,6 +1731,10 @@
         <source>%1 can&apos;t be written: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>%1 is a directory: put the plugin library itself there, or remove it.</source>
+        <translation>%1 ist ein Verzeichnis: die Plugin-Bibliothek selbst dorthin legen oder es entfernen.</translation>
+    </message>
 </context>
 <context>
     <name>panel::HomePage</name>

@@ -1731,6 +1731,10 @@
         <source>%1 can&apos;t be written: %2</source>
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message>
+        <source>%1 is a directory: put the plugin library itself there, or remove it.</source>
+        <translation>%1 是目录：请放入插件库文件本身，或将其删除。</translation>
+    </message>
 </context>
 <context>
     <name>panel::HomePage</name>

@@ -84,6 +84,7 @@ private Q_SLOTS:
             {"otherqt.so", refused, "otherqt.so was built against Qt 5.99."},
             {"otherlibrary.so", refused, "otherlibrary.so was built against version 1.9."},
             {"nolibrary.so", refused, "nolibrary.so is not a library: "},
+            {"folder.so", refused, "folder.so is a directory: "},
             {"throwingload.so", leftOut,
              "throwingload.so throws while it is loaded (no camera on this machine): correct "},
             {"crashingload.so", leftOut,
@@ -225,6 +226,7 @@ private:
         write(plugins, "otherlibrary.so", patched("sound", "library=1.0.", "library=1.9."));
         write(plugins, "nolibrary.so", "text");
         copy(plugins, "sound", "twin");
+        QVERIFY(QDir(plugins).mkdir("folder.so"));
         QVERIFY(QDir().mkpath(m_directory.filePath("more")));
         copy(m_directory.filePath("more"), "sound", "farther");
         write(plugins, "half.so", bytes("sound").left(bytes("sound").size() / 2));

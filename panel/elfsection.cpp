@@ -92,9 +92,15 @@ ElfSection checkHeader(const Elf64_Ehdr &header)
     const bool swapped = header.e_ident[EI_DATA] != ownOrder;
     const Elf64_Half machine = swapped ? qbswap(header.e_machine) : header.e_machine;
     const Elf64_Half type = swapped ? qbswap(header.e_type) : header.e_type;
+    const bool narrow = header.e_ident[EI_CLASS] != ELFCLASS64;
 
-    if (swapped || machine != ownMachineCode || header.e_ident[EI_CLASS] != ELFCLASS64)
+    if (machine != ownMachineCode)
         return {ElfSection::OtherMachine, machineName(machine), {}};
+    // The panel's processor, used in another way (x32): its bare name would say that all is well.
+    if (swapped)
+        return {ElfSection::OtherMachine, "big-endian " + machineName(machine), {}};
+    if (narrow)
+        return {ElfSection::OtherMachine, "32-bit " + machineName(machine), {}};
     if (type != ET_DYN)
         return {ElfSection::NotShared, machineName(machine), {}};
     return {ElfSection::Found, machineName(machine), {}};

@@ -15,7 +15,7 @@ struct ElfSection {
         NotElf, ///< no ELF file at all
         NotShared, ///< an ELF file, but a program or an object file
         Truncated, ///< parts that the header announces lie behind the end
-        OtherMachine, ///< for another architecture, named in machine
+        OtherMachine, ///< for another architecture, or another use of it, named in machine
         Missing ///< a sound library without that section
     };
 

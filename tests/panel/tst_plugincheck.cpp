@@ -34,6 +34,8 @@ private Q_SLOTS:
             {bytes(QStringLiteral("untagged")), "x.so has no plugin tag, "},
             {pluginfiles::foreign(QStringLiteral("sound")),
              QStringLiteral("x.so was built for ") + pluginfiles::otherMachine + here},
+            {patched("\177ELF\2", "\177ELF\1"),
+             QStringLiteral("x.so was built for 32-bit ") + pluginfiles::machine + here},
             {patched(tagged, QByteArray("=sparc99").left(tagged.size())),
              QStringLiteral("x.so was built for ") + QByteArray("sparc99").left(tagged.size() - 1)
                  + here},

@@ -1408,6 +1408,10 @@
         <source>&quot;%1&quot; failed in %2: %3</source>
         <translation>„%1“ ist in %2 fehlgeschlagen: %3</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; could not be made: %2</source>
+        <translation>„%1“ konnte nicht erzeugt werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>kit::Form</name>

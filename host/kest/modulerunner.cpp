@@ -35,6 +35,8 @@ const QString Faulty = QStringLiteral("faulty");
 const QString Detached = QStringLiteral("detached");
 const QString NotLoaded = QStringLiteral("not loaded");
 
+const QString Construction = QStringLiteral("construction"); // the others are named after hooks
+
 ostrel::ModuleObject *stateNode(const QString &name)
 {
     return m(mName(QStringLiteral("ostrel"), QStringLiteral("zeplet"), name));
@@ -180,7 +182,7 @@ QSharedPointer<ModuleRunner::Record> ModuleRunner::make(const QString &name)
     report(name, Starting);
     const auto record = QSharedPointer<Record>::create(Record {name, nullptr, false});
     m_records.append(record);
-    if (!guarded(*record, QStringLiteral("make"), [&] { record->module = makeModule(name); }))
+    if (!guarded(*record, Construction, [&] { record->module = makeModule(name); }))
         return record;
     if (!record->module)
         fault(*record, tr("The maker of \"%1\" returned no module.").arg(name));
@@ -227,7 +229,9 @@ bool ModuleRunner::guarded(Record &record, const QString &step, Step action)
     }
     --m_depth;
     if (!problem.isNull())
-        fault(record, tr("\"%1\" failed in %2: %3").arg(record.name, step, problem));
+        fault(record,
+              step == Construction ? tr("\"%1\" could not be made: %2").arg(record.name, problem)
+                                   : tr("\"%1\" failed in %2: %3").arg(record.name, step, problem));
     Q_EMIT stepFinished(record.name, step);
     stopRequested();
     return problem.isNull();

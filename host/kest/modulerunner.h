@@ -62,7 +62,7 @@ public:
     static QString error(const QString &name);
 
 Q_SIGNALS:
-    /** Around each step; step is "make", the name of a hook, or "destroy". */
+    /** Around each step; step is "construction", the name of a hook, or "destroy". */
     void stepStarted(const QString &name, const QString &step);
     void stepFinished(const QString &name, const QString &step);
     void moduleFaulty(const QString &name, const QString &error);

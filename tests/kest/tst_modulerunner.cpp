@@ -171,7 +171,7 @@ private Q_SLOTS:
                  new RecordingModule("x", {}, parent);
                  throw std::runtime_error("broken");
              },
-             "faulty", "\"x\" failed in make: broken"},
+             "faulty", "\"x\" could not be made: broken"},
         };
         for (const auto &[maker, state, error] : rows) {
             bfactory().makers.insert("x", maker);
@@ -276,10 +276,11 @@ private Q_SLOTS:
                 [&steps](const QString &, const QString &step) { steps.append('-' + step); });
         runner.start({"a"});
         runner.shutdown();
-        QCOMPARE(steps,
-                 calls("+make -make +setup -setup +afterSetup -afterSetup +init -init "
-                       "+afterInit -afterInit +beforeDetach -beforeDetach +detach -detach "
-                       "+destroy -destroy"));
+        QCOMPARE(
+            steps,
+            calls("+construction -construction +setup -setup +afterSetup -afterSetup +init -init "
+                  "+afterInit -afterInit +beforeDetach -beforeDetach +detach -detach "
+                  "+destroy -destroy"));
     }
 };
 

@@ -72,7 +72,8 @@ private Q_SLOTS:
     void killerIsLeftOut_data()
     {
         const auto row = testcolumns<QString>("step");
-        for (const char *step : {"loading", "make", "init", "afterInit", "render", "second init"})
+        for (const char *step :
+             {"loading", "construction", "init", "afterInit", "render", "second init"})
             row(step, step);
     }
 

@@ -26,7 +26,7 @@ public:
         : PluginBase(parent)
         , m_prefix(prefix)
     {
-        pass(m_prefix + "make");
+        pass(m_prefix + "construction");
     }
 
     void init() override { pass(m_prefix + "init"); }

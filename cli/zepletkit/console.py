@@ -1,6 +1,7 @@
 """The panel's console, without the lines that tell an author nothing."""
 
 import re
+import subprocess
 import sys
 import threading
 
@@ -16,10 +17,13 @@ ROUTINE = re.compile(
 
 
 class Console:
-    """Prints what the panel writes, line by line, as long as the panel runs."""
+    """Prints what the panel writes to a pipe, line by line, as long as the panel runs."""
 
-    def __init__(self, panel, everything):
-        self._lines = panel.stdout
+    # How a panel is started of which all goes there, to its standard output.
+    STREAMS = {"stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.STDOUT}
+
+    def __init__(self, lines, everything):
+        self._lines = lines
         self._everything = everything
         self._thread = threading.Thread(target=self._print, daemon=True)
         self._thread.start()

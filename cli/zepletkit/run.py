@@ -12,7 +12,6 @@ import argparse
 import contextlib
 import fcntl
 import json
-import subprocess
 import time
 from pathlib import Path
 
@@ -131,9 +130,8 @@ class Run:
         if arguments.language:
             words += ["--language", arguments.language]
         self._loaded = self._project.libraries()
-        panel = self._session.open_panel(words, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                         stderr=subprocess.STDOUT)
-        self._console = Console(panel, arguments.verbose)
+        panel = self._session.open_panel(words, **Console.STREAMS)
+        self._console = Console(panel.stdout, arguments.verbose)
 
     def _rebuild(self):
         print("zeplet: Building what you saved.", flush=True)

@@ -193,7 +193,7 @@ private Q_SLOTS:
     }
 
     // Beside the side bar no page is pushed out of sight, and with keys as well, which leaves the
-    // least room, the panel stays as large as its screen.
+    // least room, the panel stays as large as its screen, and the key that stops a move in sight.
     void besideASideBarAndKeys()
     {
         const QStringList pages {"page-points",  "page-program",   "page-projects", "page-run",
@@ -210,7 +210,8 @@ private Q_SLOTS:
                     savePicture("narrow-" + page + '-' + language);
                     QCOMPARE(widgetchecks::faults(&m_panel.window()).join('\n'), QString());
                     QCOMPARE(m_panel.window().size(), QSize(1280, 800));
-                    QVERIFY2(withKeys || !isScrolledSideways(), qPrintable(page + language));
+                    QVERIFY2((withKeys && page != "page-points") || !isScrolledSideways(),
+                             qPrintable(page + language));
                 }
             }
             qo::kivra::registerPhysicalButtons(&module, "keys", {{"A", {}, {}, {}}}, {}, {});

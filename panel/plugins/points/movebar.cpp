@@ -4,10 +4,11 @@
 #include "kit/page.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
+#include <QVBoxLayout>
 #include <brisa/elidedlabel.h>
 #include <brisa/glyph.h>
 #include <brisa/thememanager.h>
@@ -37,8 +38,10 @@ MoveBar::MoveBar(ArmFeed *feed, kit::Page *page)
     : QFrame(page)
     , m_feed(feed)
     , m_page(page)
+    , m_fields(new QGridLayout(this))
     , m_title(new brisa::ElidedLabel(QString(), this))
     , m_reason(new QLabel(this))
+    , m_texts(makeTexts())
     , m_speed(new QComboBox(this))
     , m_way(new QComboBox(this))
     , m_move(new QPushButton(this))
@@ -57,9 +60,9 @@ MoveBar::MoveBar(ArmFeed *feed, kit::Page *page)
             &MoveBar::refreshStop);
 }
 
-void MoveBar::build()
+QWidget *MoveBar::makeTexts()
 {
-    setProperty("role", QStringLiteral("card"));
+    auto *const texts = new QWidget(this);
     m_title->setFont(brisa::ThemeManager::font(brisa::TextSize::Body, true));
     m_reason->setObjectName(QStringLiteral("moveReason"));
     m_reason->setProperty("role", QStringLiteral("caption"));
@@ -68,6 +71,19 @@ void MoveBar::build()
     m_reason->setMinimumHeight(
         2 * QFontMetrics(brisa::ThemeManager::font(brisa::TextSize::Caption)).lineSpacing());
     m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto *const column = new QVBoxLayout(texts);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addStretch(1);
+    column->addWidget(m_title);
+    column->addWidget(m_reason);
+    column->addStretch(1);
+    return texts;
+}
+
+void MoveBar::build()
+{
+    setProperty("role", QStringLiteral("card"));
     m_speed->setObjectName(QStringLiteral("moveSpeed"));
     for (const int speed : Speeds)
         m_speed->addItem(QString(), speed);
@@ -83,18 +99,10 @@ void MoveBar::build()
     m_stop->setStyleSheet(
         QStringLiteral("min-height: %1px; font-size: 20px; font-weight: bold;").arg(StopHeight));
     m_stop->setIconSize({metrics::Icon + metrics::Grid, metrics::Icon + metrics::Grid});
-    auto *const texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    texts->addStretch(1);
-    texts->addWidget(m_title);
-    texts->addWidget(m_reason);
-    texts->addStretch(1);
-    auto *const row = new QHBoxLayout(this);
-    row->setContentsMargins(metrics::Margin, metrics::Grid, metrics::Grid, metrics::Grid);
-    row->setSpacing(metrics::Grid);
-    row->addLayout(texts, 1);
-    for (QWidget *const field : QVector<QWidget *> {m_speed, m_way, m_move, m_stop})
-        row->addWidget(field);
+    m_fields->setContentsMargins(metrics::Margin, metrics::Grid, metrics::Grid, metrics::Grid);
+    m_fields->setSpacing(metrics::Grid);
+    m_fields->setColumnStretch(0, 1);
+    setNarrow(false);
     refreshStop();
     brisa::translated(this, [this] { sayTexts(); });
 }
@@ -107,6 +115,17 @@ void MoveBar::sayTexts()
     m_way->setItemText(Joints, tr("By joints"));
     m_move->setText(tr("Move"));
     m_stop->setText(tr("STOP"));
+}
+
+void MoveBar::setNarrow(bool narrow)
+{
+    const int row = narrow ? 1 : 0;
+    const int column = narrow ? 0 : 1;
+    m_fields->addWidget(m_texts, 0, 0, 1, narrow ? 2 : 1);
+    m_fields->addWidget(m_speed, row, column);
+    m_fields->addWidget(m_way, row, column + 1);
+    m_fields->addWidget(m_move, row, column + 2);
+    m_fields->addWidget(m_stop, 0, narrow ? 2 : 4);
 }
 
 void MoveBar::setTarget(const std::optional<Point> &point)

@@ -9,6 +9,7 @@
 
 class ArmFeed;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -33,6 +34,8 @@ public:
 
     void setTarget(const std::optional<Point> &point);
     void refresh();
+    /** In two rows, for where there is little room beside the key to stop. */
+    void setNarrow(bool narrow);
     /** The page is left. */
     void leave();
 
@@ -40,6 +43,7 @@ private:
     enum Phase { Resting, Sent, Moving };
 
     void build();
+    QWidget *makeTexts();
     void sayTexts();
     QString refusal() const;
     void askToMove();
@@ -61,8 +65,10 @@ private:
     bool m_stopped = false;
     QTimer m_patience;
     QTimer m_settle;
+    QGridLayout *m_fields;
     brisa::ElidedLabel *m_title;
     QLabel *m_reason;
+    QWidget *m_texts;
     QComboBox *m_speed;
     QComboBox *m_way;
     QPushButton *m_move;

@@ -7,6 +7,7 @@
 #include "posecard.h"
 
 #include <QComboBox>
+#include <QFrame>
 #include <QHideEvent>
 #include <QLocale>
 #include <QPushButton>
@@ -27,6 +28,7 @@ constexpr int KindWidth = 104;
 constexpr int ElementsWidth = 92;
 constexpr int ListShare = 55;
 constexpr int ArmShare = 45;
+constexpr int WideFrom = 720; // pixels: list and arm have no room beside each other in less
 constexpr int MostMarks = 500;
 constexpr float Farthest = 4000; // mm: one place on the moon would make the arm a dot
 
@@ -103,7 +105,8 @@ PointsPage::PointsPage(QWidget *parent)
     auto *const row = new QHBoxLayout;
     row->setSpacing(metrics::Margin);
     row->addLayout(makeList(), ListShare);
-    row->addWidget(makeArm(), ArmShare);
+    m_armCard = makeArm();
+    row->addWidget(m_armCard, ArmShare);
     body()->addLayout(row, 1);
     m_bar = new MoveBar(m_feed, this);
     body()->addWidget(m_bar);
@@ -181,7 +184,7 @@ QLayout *PointsPage::makeList()
     return column;
 }
 
-QWidget *PointsPage::makeArm()
+QFrame *PointsPage::makeArm()
 {
     auto *const card = new QFrame(this);
     card->setProperty("role", QStringLiteral("card"));
@@ -315,6 +318,24 @@ void PointsPage::hideEvent(QHideEvent *event)
     if (!event->spontaneous())
         m_bar->leave();
     Page::hideEvent(event);
+}
+
+// Less than what it needs, where the arm is shown, for it can make room.
+QSize PointsPage::minimumSizeHint() const
+{
+    const QSize needed = Page::minimumSizeHint();
+    return m_narrow ? needed : QSize(qMin(needed.width(), WideFrom - 1), needed.height());
+}
+
+// A page that is scrolled could hide the key that stops the robot: the arm's picture goes first.
+void PointsPage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    const bool narrow = width() < WideFrom;
+    if (std::exchange(m_narrow, narrow) == narrow)
+        return;
+    m_armCard->setVisible(!narrow);
+    m_bar->setNarrow(narrow);
 }
 
 /** Carries an edit out, with the page locked meanwhile, and tells what became of it. */

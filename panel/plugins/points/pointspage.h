@@ -8,7 +8,7 @@ class ArmView;
 class MoveBar;
 class PoseCard;
 class QComboBox;
-class QLabel;
+class QFrame;
 
 namespace brisa
 {
@@ -30,13 +30,16 @@ public:
 
     static QString pluginName();
 
+    QSize minimumSizeHint() const override;
+
 protected:
     void refresh() override;
     void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QLayout *makeList();
-    QWidget *makeArm();
+    QFrame *makeArm();
     QPushButton *makeKey(const kit::Text &text, const char *objectName);
     void refreshChosen();
     void refreshElements(const Point *point);
@@ -57,10 +60,12 @@ private:
     QString m_project;
     bool m_unsaved = false;
     bool m_wasMoving = false;
+    bool m_narrow = false;
     ArmFeed *m_feed;
     kit::Table *m_table = nullptr;
     QComboBox *m_elements = nullptr;
     brisa::ElidedLabel *m_values = nullptr;
+    QFrame *m_armCard = nullptr;
     ArmView *m_arm = nullptr;
     PoseCard *m_pose = nullptr;
     MoveBar *m_bar = nullptr;

@@ -43,6 +43,7 @@ private:
     QSpinBox *m_speed = nullptr;
     QLabel *m_notice = nullptr;
     QString m_last; ///< the point that the robot was sent to last
+    bool m_watched = false; ///< what goes wrong on the way, until moveToStop()
 };
 
 void MovesPlugin::init()
@@ -85,9 +86,12 @@ void MovesPlugin::init()
         m_page);
 }
 
-// The delivery has to be ended, else the panel goes on with it.
+// The delivery has to be ended, else the panel goes on with it. Without the page nobody could stop
+// the robot.
 void MovesPlugin::detach()
 {
+    if (m_watched)
+        zepletInterface()->moveToStop();
     for (const QString &id : zepletEvent()->totalSubscriptionIds(pluginName))
         zepletInterface()->disconnectNexoData(pluginName, errorKey, id);
     delete m_page;
@@ -118,6 +122,7 @@ void MovesPlugin::move(bool joint)
         zepletInterface()->moveToStart(result, name, m_speed->value(), true, true);
     else
         zepletInterface()->moveToStart(result, name, m_speed->value(), false);
+    m_watched = m_watched || result != -1;
     if (result == -1)
         return m_notice->setText(tr("\"%1\" has no place. Teach it first.").arg(name));
     if (result == -2)
@@ -131,6 +136,7 @@ void MovesPlugin::move(bool joint)
 void MovesPlugin::stop()
 {
     zepletInterface()->moveToStop();
+    m_watched = false;
     m_last.clear(); // who knows where it stands now
     m_notice->setText(zepletInterface()->getRobotConnected()
                           ? tr("The robot was told to stop.")

@@ -34,6 +34,9 @@ public:
     QMetaObject::Connection publishHubKey(const QString &serviceKey);
     QMetaObject::Connection publishNotifyPath(const QString &notifyPath);
 
+    /** Asks the hub for the errors of a motion, or does so no longer. */
+    void watchMotionErrors(bool on);
+
     /** name and a number that no task of this process had before. */
     QString createTaskId(const QString &name);
 
@@ -50,6 +53,7 @@ public:
     Subscriptions nexoSubscriptions; ///< per service key, ids on the bus
     Connections rcNotifyConnections; ///< per notify path
     Subscriptions rcNotifySubscriptions; ///< per notify path, ids on the bus
+    bool motionErrorsWatched = false;
     InterfaceManager *q;
 };
 

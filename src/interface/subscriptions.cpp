@@ -180,4 +180,14 @@ InterfaceWatches::Ids InterfaceWatches::notifyPaths()
     return zepletInterface()->d->rcNotifySubscriptions;
 }
 
+bool InterfaceWatches::motionErrors()
+{
+    return zepletInterface()->d->motionErrorsWatched;
+}
+
+void InterfaceWatches::endMotionErrors()
+{
+    zepletInterface()->d->watchMotionErrors(false);
+}
+
 } // namespace zeplet

@@ -1,4 +1,4 @@
-#include <zeplet/interface/interfacemanager.h>
+#include <zeplet/interface/interfacemanager_p.h>
 
 #include <nexo/nexo.h>
 #include <ostrel/moduleobject.h>
@@ -101,6 +101,12 @@ QString moveCommand(bool joint)
 
 } // namespace
 
+void InterfaceManager::InterfaceManagerPrivate::watchMotionErrors(bool on)
+{
+    motionErrorsWatched = on;
+    nexo()->watch(q, motionErrors, on);
+}
+
 void InterfaceManager::moveToStart(int &result, const QString &name, int speed, bool useConf,
                                    bool joint)
 {
@@ -110,7 +116,7 @@ void InterfaceManager::moveToStart(int &result, const QString &name, int speed, 
         return;
     }
     nexo()->execCommand(this, QStringLiteral("move.reset"));
-    nexo()->watch(this, motionErrors, true);
+    d->watchMotionErrors(true);
 
     const bool needsConfiguration = useConf || joint;
     if (needsConfiguration && target.configuration.isEmpty()) {
@@ -139,7 +145,7 @@ void InterfaceManager::moveToStart(int &result, const QString &name, int speed, 
 
 void InterfaceManager::moveToStop()
 {
-    nexo()->watch(this, motionErrors, false);
+    d->watchMotionErrors(false);
     if (!isController23To32()) {
         nexo()->command(this, QStringLiteral("move.stop"));
         return;

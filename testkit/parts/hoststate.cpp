@@ -48,6 +48,7 @@ void endWatches()
         zepletInterface()->disconnectNexoData(QString(), key, QString());
     for (const QString &path : InterfaceWatches::notifyPaths().keys())
         zepletInterface()->disconnectRcNotify(QString(), path, QString());
+    InterfaceWatches::endMotionErrors();
 }
 
 } // namespace

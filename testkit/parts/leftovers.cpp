@@ -196,6 +196,7 @@ Leftovers::Sight Leftovers::look() const
     now.keyPages = unownedKeyPages();
     now.monitored = monitored(m_simulator);
     now.filters = filters();
+    now.motionErrors = InterfaceWatches::motionErrors();
     now.modalWindows = modalCount();
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *const window : windows) {
@@ -226,6 +227,9 @@ QStringList Leftovers::compare(const Sight &now)
     sentences += newOnes(before.filters, now.filters,
                          QStringLiteral("The filter \"%1\" is still on: an operator would wait for "
                                         "a plugin that is gone. Turn it off in detach()."));
+    if (now.motionErrors && !before.motionErrors)
+        sentences += QStringLiteral("The errors of a motion are still watched: call moveToStop() "
+                                    "after moveToStart(), in detach() at the latest.");
     for (const QWidget *const window : now.windows - before.windows)
         sentences += QStringLiteral("The window \"%1\" is still open: delete it in detach().")
                          .arg(nameOf(window));

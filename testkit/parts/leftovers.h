@@ -37,6 +37,7 @@ private:
     struct Sight {
         QSet<QString> centrePages, sidePages, statusEntries, keyPages, monitored, filters;
         QSet<QWidget *> windows;
+        bool motionErrors = false;
         int modalWindows = 0;
     };
 

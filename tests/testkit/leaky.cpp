@@ -35,6 +35,12 @@ const struct {
     {"nameless subscription", [] { zepletEvent()->subscribe(RCRunStop, ignoreEvent); }},
     {"hub watch", [] { zepletInterface()->connectNexoData(self, "demo.x", ignoreValue); }},
     {"notify watch", [] { zepletInterface()->connectRcNotify(self, "demo.y", ignoreValue); }},
+    {"motion",
+     [] {
+         int result = 0;
+         zepletInterface()->createPoint("here", false, false);
+         zepletInterface()->moveToStart(result, "here", 100, false, false);
+     }},
     {"monitor", [] { zepletInterface()->registPERSVars({"part_count"}); }},
     {"centre page",
      [] { instantiatedCenterWidget()->addPage(nullptr, "leaky.more", new QWidget); }},

@@ -83,6 +83,7 @@ private Q_SLOTS:
         row("nameless subscription", "A subscription to RCRunStop in the name \"\" is left: ");
         row("hub watch", "The hub key demo.x is still watched: ");
         row("notify watch", "The notify path demo.y is still watched: ");
+        row("motion", "The errors of a motion are still watched: ");
         row("monitor", "The variable part_count is still monitored: ");
         row("centre page", "The centre page leaky.more is left: ");
         row("side page", "The page leaky.side of the right side bar is left: ");

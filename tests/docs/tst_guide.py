@@ -72,6 +72,12 @@ class Reader:
                 sys.exit(f'It did not print "{line}", but\n{before}')
 
 
+def architecture():
+    """This machine's, as its packages are named; the guide was written on another one perhaps."""
+    return subprocess.run(["dpkg", "--print-architecture"], check=True, text=True,
+                          stdout=subprocess.PIPE).stdout.strip()
+
+
 def main(guide, build, directory=None):
     work = Path(directory or tempfile.mkdtemp(prefix="zeplet-guide-"))
     if shutil.which("ccache"):
@@ -83,7 +89,7 @@ def main(guide, build, directory=None):
         own = work / "empty"
         own.mkdir()
         reader = Reader(own, work / "prefix")
-        reader.follow(Path(guide).read_text(encoding="utf-8"))
+        reader.follow(Path(guide).read_text(encoding="utf-8").replace("amd64", architecture()))
         print(f"{sum(reader.seconds):6.1f} s  in all")
     finally:
         if not directory:

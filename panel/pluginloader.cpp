@@ -95,6 +95,9 @@ void PluginLoader::loadDirectory(const QString &path)
             tr("The plugin directory %1 can't be read: create it, correct its permissions, "
                "or start the panel with another one.")
                 .arg(path));
+    if (m_directories.contains(directory.canonicalPath()))
+        return;
+    m_directories.insert(directory.canonicalPath());
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.so")},
         QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::System | QDir::Hidden, QDir::Name);

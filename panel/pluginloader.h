@@ -27,9 +27,9 @@ public:
     PluginLoader(StartGuard &guard, LoadTrial &trial, QObject *parent = nullptr);
 
     /** Loads every library (*.so) of the directory, in the order of their names; what else bears
-     *  such a name gets a record, too. A directory that can't be read is said to the operator. Runs
-     *  the libraries' initialisers, those of unknown libraries in a child first; blocks for both
-     * and for the disk. */
+     *  such a name gets a record, too. A directory counts once; one that can't be read is said to
+     *  the operator. Runs the libraries' initialisers, those of unknown libraries in a child first;
+     *  blocks for both and for the disk. */
     void loadDirectory(const QString &path);
 
     const QList<PluginRecord> &records() const;
@@ -54,6 +54,7 @@ private:
 
     StartGuard &m_guard;
     LoadTrial &m_trial;
+    QSet<QString> m_directories; ///< that were loaded
     QSet<QString> m_tried; ///< paths that got through this start's trial
     QList<PluginRecord> m_records;
     QSet<QString> m_modules; ///< all that were registered when newModules() looked last

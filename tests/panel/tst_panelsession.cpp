@@ -37,7 +37,8 @@ private Q_SLOTS:
         fillPluginDirectory();
         panel::PanelOptions options;
         options.pluginDirectories
-            = QStringList {m_directory.filePath("plugins"), m_directory.filePath("more")};
+            = QStringList {m_directory.filePath("plugins"), m_directory.filePath("more"),
+                           m_directory.filePath("more/../plugins/")};
         options.runtimeDirectory = m_directory.filePath("run");
         options.settingsFile = m_directory.filePath("settings.json");
         options.loadLimit = 1500; // of the one that never returns
@@ -233,13 +234,15 @@ private:
         write(plugins, "readme.txt", "not looked at");
     }
 
+    /** The last one: a library that counts twice is refused then. */
     PluginRecord recordOf(const QString &file) const
     {
+        PluginRecord last;
         for (const PluginRecord &record : m_session->loader().records()) {
             if (record.file.fileName() == file)
-                return record;
+                last = record;
         }
-        return {};
+        return last;
     }
 
     QTemporaryDir m_directory;

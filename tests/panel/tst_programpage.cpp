@@ -20,13 +20,13 @@
 
 #include <QFormLayout>
 
-static bool s_directorySyncFails = false;
+static mode_t s_unsynced = 0; // the kind of file whose sync fails
 
 // In the place of the C library's.
 extern "C" __attribute__((visibility("default"))) int fsync(int handle)
 {
     struct stat state = {};
-    if (s_directorySyncFails && ::fstat(handle, &state) == 0 && S_ISDIR(state.st_mode)) {
+    if (s_unsynced != 0 && ::fstat(handle, &state) == 0 && (state.st_mode & S_IFMT) == s_unsynced) {
         errno = EIO;
         return -1;
     }
@@ -332,9 +332,9 @@ private Q_SLOTS:
     void whatTheDiskDidNotConfirmIsShownAsItIs()
     {
         choose(1);
-        s_directorySyncFails = true;
+        s_unsynced = S_IFDIR;
         QVERIFY(m_panel.click("deleteLine"));
-        s_directorySyncFails = false;
+        s_unsynced = 0;
         QVERIFY2(m_panel.notice().contains("did not confirm"), qPrintable(m_panel.notice()));
         QCOMPARE(lines()->rowCount(), 5);
         QVERIFY(m_panel.click("undo"));
@@ -361,6 +361,48 @@ private Q_SLOTS:
         QVERIFY(m_panel.click("accept"));
         QVERIFY2(m_panel.notice().contains("already"), qPrintable(m_panel.notice()));
         QCOMPARE(onPanel("late"), QByteArray("came meanwhile\n"));
+    }
+
+    void whatIsRefusedStaysEntered_data()
+    {
+        QTest::addColumn<QString>("opening");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("accepting");
+        QTest::newRow("insert") << "insertLine"
+                                << "current"
+                                << "insert";
+        QTest::newRow("properties") << "editProperties"
+                                    << "current"
+                                    << "apply";
+        QTest::newRow("text") << "editLine"
+                              << "lineText"
+                              << "accept";
+    }
+
+    void whatIsRefusedStaysEntered()
+    {
+        QFETCH(QString, opening);
+        QFETCH(QString, field);
+        QFETCH(QString, accepting);
+        choose(3);
+        if (opening == "insertLine")
+            enter("widget");
+        else
+            QVERIFY(m_panel.click(opening));
+        m_panel.find<QLineEdit>(field)->setText("90");
+        s_unsynced = S_IFREG;
+        QVERIFY(m_panel.click(accepting));
+        s_unsynced = 0;
+        QVERIFY2(told().contains("could not be saved"), qPrintable(told()));
+        QCOMPARE(onPanel("seam"), program.toUtf8());
+        write("seam", program.toUtf8() + "Stop\n");
+        QVERIFY(m_panel.click(accepting));
+        QVERIFY2(told().contains("changed elsewhere"), qPrintable(told()));
+        QCOMPARE(onPanel("seam"), program.toUtf8() + "Stop\n");
+        QCOMPARE(m_panel.find<QLineEdit>(field)->text(), QString("90"));
+        QVERIFY(m_panel.click(accepting));
+        QVERIFY(!m_panel.find<QLineEdit>(field));
+        QVERIFY(onPanel("seam").contains("90") && onPanel("seam").endsWith("Stop\n"));
     }
 
     void nobodySendsWhatNobodySaw()
@@ -589,10 +631,11 @@ private:
     QComboBox *programs() const { return m_panel.find<QComboBox>("programs"); }
     QString state() const { return m_panel.find<QWidget>("programState")->accessibleName(); }
 
-    /** What a dialog of an instruction says. */
+    /** What a dialog of an instruction or a line says. */
     QString told() const
     {
-        const auto *const label = m_panel.find<QLabel>("instructionSentence");
+        const auto *label = m_panel.find<QLabel>("instructionSentence");
+        label = label ? label : m_panel.find<QLabel>("validation");
         return label ? label->text() : QString();
     }
 

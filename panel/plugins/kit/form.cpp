@@ -70,6 +70,11 @@ void Form::setValidation(std::function<QString()> validate)
     check();
 }
 
+void Form::onAccepting(std::function<QString()> accepting)
+{
+    m_accepting = std::move(accepting);
+}
+
 void Form::onAccepted(std::function<void()> accepted)
 {
     m_accepted = std::move(accepted);
@@ -78,11 +83,16 @@ void Form::onAccepted(std::function<void()> accepted)
 void Form::check()
 {
     const QString sentence = m_validate ? m_validate() : QString();
+    say(sentence);
+    m_accept->setEnabled(sentence.isEmpty());
+}
+
+void Form::say(const QString &sentence)
+{
     m_sentence->setText(sentence);
     m_sentence->setProperty("role", m_touched ? "warning" : "muted");
     m_sentence->style()->unpolish(m_sentence);
     m_sentence->style()->polish(m_sentence);
-    m_accept->setEnabled(sentence.isEmpty());
 }
 
 void Form::touched()
@@ -96,6 +106,9 @@ void Form::accept()
     check();
     if (!m_accept->isEnabled())
         return;
+    const QString refusal = m_accepting ? m_accepting() : QString();
+    if (!refusal.isEmpty())
+        return say(refusal);
     finish();
     if (m_accepted)
         m_accepted();

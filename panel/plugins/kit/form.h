@@ -13,8 +13,9 @@ namespace kit
 
 /**
  * An overlay that asks for values. Whenever one changes, validate says in a sentence what is wrong
- * and what to do, or nothing; only then can it be accepted. Once accepted it finishes and calls
- * back, while its fields can still be read.
+ * and what to do, or nothing; only then can it be accepted. Accepting it may be refused in a
+ * sentence, too: it stays with what is entered. Else it finishes and calls back, while its fields
+ * can still be read.
  */
 class Form : public Overlay
 {
@@ -33,16 +34,20 @@ public:
     void addField(const QString &label, QWidget *field);
 
     void setValidation(std::function<QString()> validate);
+    /** Returns why it is refused, or nothing. */
+    void onAccepting(std::function<QString()> accepting);
     void onAccepted(std::function<void()> accepted);
 
     /** Reads the fields anew. */
     void check();
 
 private:
+    void say(const QString &sentence);
     void touched();
     void accept();
 
     std::function<QString()> m_validate;
+    std::function<QString()> m_accepting;
     std::function<void()> m_accepted;
     QLabel *m_sentence;
     QPushButton *m_accept;

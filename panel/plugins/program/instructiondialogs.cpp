@@ -46,10 +46,11 @@ void InstructionDialog::accept(const QString &text)
 {
     QString refusal;
     const QStringList lines = programtext::given(text, &refusal);
+    if (refusal.isEmpty())
+        refusal = m_accepted(lines);
     if (!refusal.isEmpty())
         return say(refusal);
     finish();
-    m_accepted(lines);
 }
 
 InsertDialog::InsertDialog(kit::Page *page, const Instructions *instructions, Accept accepted)

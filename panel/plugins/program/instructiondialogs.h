@@ -20,15 +20,16 @@ class InstructionDialog : public kit::Overlay
     Q_OBJECT
 
 public:
-    /** Takes the lines that the operator made; called once, when the dialog is finished. */
-    using Accept = std::function<void(const QStringList &lines)>;
+    /** Takes the lines that the operator made, and finishes the dialog; or returns why they are
+     *  refused, and the dialog stays with what is entered. */
+    using Accept = std::function<QString(const QStringList &lines)>;
 
 protected:
     InstructionDialog(kit::Page *page, const QString &title, Accept accepted);
 
     InstructionBox *box() const { return m_box; }
     void say(const QString &sentence);
-    /** Checks the text, and ends the dialog with it where it will do. */
+    /** Checks the text, and ends the dialog with it where it is taken. */
     void accept(const QString &text);
 
 private:

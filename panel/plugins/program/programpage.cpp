@@ -276,21 +276,18 @@ bool ProgramPage::isChangedElsewhere() const
         || now != m_content;
 }
 
-bool ProgramPage::change(const QStringList &lines, int row)
+QString ProgramPage::change(const QStringList &lines, int row)
 {
     return save(programtext::contentOf(lines), row);
 }
 
-bool ProgramPage::save(const QByteArray &content, int row)
+QString ProgramPage::save(const QByteArray &content, int row)
 {
     if (content.size() > ProgramFolder::LargestFile)
         return refuse(Tone::Error,
                       tr("A program has at most 1 MiB, and nothing was changed: divide it."));
     if (isChangedElsewhere())
-        return refuse(Tone::Warning,
-                      tr("\"%1\" was changed elsewhere meanwhile, and your change was not made: "
-                         "look at it, and change it again.")
-                          .arg(m_name));
+        return refuseChanged();
     const ProgramFolder::Saved saved = m_folder.write(m_name, content);
     if (saved == ProgramFolder::Saved::No)
         return refuse(Tone::Error,
@@ -307,14 +304,22 @@ bool ProgramPage::save(const QByteArray &content, int row)
     showProgram(content, row);
     remember(versions);
     refresh();
-    return true;
+    return QString();
 }
 
-bool ProgramPage::refuse(Tone tone, const QString &sentence)
+QString ProgramPage::refuse(Tone tone, const QString &sentence)
 {
     say(tone, sentence);
     refresh();
-    return false;
+    return sentence;
+}
+
+QString ProgramPage::refuseChanged()
+{
+    return refuse(Tone::Warning,
+                  tr("\"%1\" was changed elsewhere meanwhile, and your change was not made: "
+                     "look at it, and change it again.")
+                      .arg(m_name));
 }
 
 /** What can be undone, the latest of it. */
@@ -331,31 +336,35 @@ void ProgramPage::remember(const QVector<Version> &versions)
     m_undo = versions.mid(versions.size() - kept);
 }
 
-std::function<void(const QStringList &)>
-ProgramPage::laterAt(std::function<void(const QStringList &)> edit)
+ProgramPage::Edit ProgramPage::laterAt(const Edit &edit)
 {
     const int row = m_view->row();
-    return [this, edit = std::move(edit), row, folder = m_folder, name = m_name,
-            content = m_content](const QStringList &lines) {
-        if (folder == m_folder && name == m_name && content == m_content && row == m_view->row())
-            return edit(lines);
-        say(Tone::Warning,
-            tr("Another program or line is shown meanwhile, and nothing was changed: choose the "
-               "line, and try again."));
+    return [this, edit, row, line = m_lines.value(row), folder = m_folder, name = m_name,
+            content = m_content](const QStringList &lines) mutable {
+        if (folder != m_folder || name != m_name || row != m_view->row()
+            || line != m_lines.value(row))
+            return refuse(Tone::Warning,
+                          tr("Another program or line is shown meanwhile, and nothing was changed: "
+                             "choose the line, and try again."));
+        if (std::exchange(content, m_content) != m_content)
+            return refuseChanged();
+        const QString refusal = edit(lines);
+        content = m_content; // a refusal shows what there is now
+        return refusal;
     };
 }
 
-void ProgramPage::insertBehind(const QStringList &lines)
+QString ProgramPage::insertBehind(const QStringList &lines)
 {
     const int row = m_view->row();
     const QStringList added = programtext::insertion(m_lines.value(row), lines);
-    change(m_lines.mid(0, row + 1) + added + m_lines.mid(row + 1), row + added.size());
+    return change(m_lines.mid(0, row + 1) + added + m_lines.mid(row + 1), row + added.size());
 }
 
-void ProgramPage::replaceRow(const QStringList &lines)
+QString ProgramPage::replaceRow(const QStringList &lines)
 {
     const int row = m_view->row();
-    change(m_lines.mid(0, row) + lines + m_lines.mid(row + 1), row);
+    return change(m_lines.mid(0, row) + lines + m_lines.mid(row + 1), row);
 }
 
 void ProgramPage::chooseProgram()
@@ -470,7 +479,7 @@ void ProgramPage::send()
 
 void ProgramPage::insert()
 {
-    const auto accepted = laterAt([this](const QStringList &lines) { insertBehind(lines); });
+    const auto accepted = laterAt([this](const QStringList &lines) { return insertBehind(lines); });
     auto *const dialog = new InsertDialog(this, m_instructions, accepted);
     dialog->onWriting([this] { writeLine(tr("Write a line"), QString(), true); });
     dialog->open();
@@ -484,7 +493,7 @@ void ProgramPage::editProperties()
     const QString text = programtext::shown(line);
     const QString type = m_instructions->typeOf(text);
     const auto accepted = laterAt([this, line](const QStringList &lines) {
-        replaceRow(programtext::replacement(line, lines));
+        return replaceRow(programtext::replacement(line, lines));
     });
     auto *const dialog = new PropertyDialog(this, m_instructions, type, text, accepted);
     if (dialog->fault().isEmpty())
@@ -513,7 +522,7 @@ void ProgramPage::writeLine(const QString &title, const QString &text, bool inse
         if (inserts)
             return insertBehind(lines);
         const bool returns = m_lines.value(m_view->row()).endsWith('\r');
-        replaceRow({returns ? lines.first() + '\r' : lines.first()});
+        return replaceRow({returns ? lines.first() + '\r' : lines.first()});
     });
     auto *const form = new kit::Form(this, title, inserts ? tr("Insert") : tr("Apply"));
     form->setCardWidth(760);
@@ -526,7 +535,7 @@ void ProgramPage::writeLine(const QString &title, const QString &text, bool inse
             programtext::given(edit->text(), &refusal);
         return refusal;
     });
-    form->onAccepted([=] { accepted({edit->text()}); });
+    form->onAccepting([=] { return accepted({edit->text()}); });
     form->open();
 }
 
@@ -553,7 +562,7 @@ void ProgramPage::undo()
         return;
     QVector<Version> versions = m_undo;
     const Version last = versions.takeLast();
-    if (!save(last.content, last.row))
+    if (!save(last.content, last.row).isEmpty())
         return;
     m_undo = versions;
     refreshKeys();

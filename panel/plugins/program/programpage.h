@@ -32,6 +32,8 @@ private:
         QByteArray content;
         int row;
     };
+    /** Why it was refused, or nothing. */
+    using Edit = std::function<QString(const QStringList &lines)>;
 
     QWidget *makeKeys();
     QPushButton *makeKey(const char *objectName, void (ProgramPage::*act)());
@@ -47,16 +49,17 @@ private:
 
     bool isRunning() const;
     bool isChangedElsewhere() const;
-    bool change(const QStringList &lines, int row);
-    /** Saves the text and shows it; false, with the reason told, where nothing was changed. */
-    bool save(const QByteArray &content, int row);
-    bool refuse(kit::Tone tone, const QString &sentence);
+    QString change(const QStringList &lines, int row);
+    /** Saves the text and shows it; where nothing was changed, the reason, which is told too. */
+    QString save(const QByteArray &content, int row);
+    QString refuse(kit::Tone tone, const QString &sentence);
+    QString refuseChanged();
     void remember(const QVector<Version> &versions);
-    /** What carries an edit out later, where the program is then still what it is now. */
-    std::function<void(const QStringList &)>
-    laterAt(std::function<void(const QStringList &lines)> edit);
-    void insertBehind(const QStringList &lines);
-    void replaceRow(const QStringList &lines);
+    /** What carries an edit out later, where the line is then still what it is now. A program that
+     *  changed elsewhere refuses it once, and is shown. */
+    Edit laterAt(const Edit &edit);
+    QString insertBehind(const QStringList &lines);
+    QString replaceRow(const QStringList &lines);
     void writeLine(const QString &title, const QString &text, bool inserts);
     void moveRow(int by);
 

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <brisa/plaintip.h>
 #include <brisa/thememanager.h>
 
 namespace panel
@@ -30,7 +31,7 @@ StatusBadge::StatusBadge(QWidget *parent)
 void StatusBadge::setReading(const Reading &reading)
 {
     m_reading = reading;
-    setToolTip(reading.hint);
+    setToolTip(brisa::plainTip(reading.hint));
     setAccessibleName(reading.value);
     updateGeometry();
     update();

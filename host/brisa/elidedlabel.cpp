@@ -1,5 +1,7 @@
 #include "brisa/elidedlabel.h"
 
+#include "brisa/plaintip.h"
+
 #include <QEvent>
 #include <QPainter>
 
@@ -57,7 +59,7 @@ QSize ElidedLabel::minimumSizeHint() const
 bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(isElided() ? m_text.toHtmlEscaped() : QString());
+        setToolTip(isElided() ? plainTip(m_text) : QString());
     return QFrame::event(event);
 }
 

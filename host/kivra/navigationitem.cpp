@@ -1,6 +1,7 @@
 #include "kivra/navigationitem_p.h"
 
 #include "brisa/glyph.h"
+#include "brisa/plaintip.h"
 #include "brisa/thememanager.h"
 
 #include <QEvent>
@@ -44,7 +45,7 @@ bool NavigationItem::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const bool elided = fontMetrics().horizontalAdvance(text()) > textBox().width();
-        setToolTip(elided ? text().toHtmlEscaped() : QString());
+        setToolTip(elided ? brisa::plainTip(text()) : QString());
     }
     return QAbstractButton::event(event);
 }

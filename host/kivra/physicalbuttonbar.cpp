@@ -2,6 +2,7 @@
 
 #include "brisa/glyph.h"
 #include "brisa/languagemanager.h"
+#include "brisa/plaintip.h"
 #include "brisa/thememanager.h"
 #include "brisa/touchscrollarea_p.h"
 #include "kest/bmodule.h"
@@ -181,7 +182,7 @@ void PhysicalButtonBar::refreshSelector()
     const QString title = titleOf(*m_page);
     m_selector->setText(
         QFontMetrics(m_selector->font()).elidedText(title, Qt::ElideRight, SelectorTextWidth));
-    m_selector->setToolTip(title.toHtmlEscaped());
+    m_selector->setToolTip(brisa::plainTip(title));
     m_selector->setEnabled(choice);
 }
 

@@ -1,5 +1,6 @@
 #include "kivra/physicalkey_p.h"
 
+#include "brisa/plaintip.h"
 #include "brisa/thememanager.h"
 #include "kivra/navigationtree_p.h"
 
@@ -120,7 +121,7 @@ bool PhysicalKey::textFits() const
 void PhysicalKey::resizeEvent(QResizeEvent *event)
 {
     QAbstractButton::resizeEvent(event);
-    setToolTip(textFits() ? QString() : text().toHtmlEscaped());
+    setToolTip(textFits() ? QString() : brisa::plainTip(text()));
 }
 
 void PhysicalKey::hideEvent(QHideEvent *event)

@@ -10,6 +10,7 @@
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTableView>
+#include <QTextDocumentFragment>
 #include <brisa/elidedlabel.h>
 #include <brisa/logbanner.h>
 #include <brisa/thememanager.h>
@@ -21,6 +22,11 @@ constexpr int CellPadding = 10;
 constexpr int MarkPadding = 10;
 
 using Texts = QVector<ShownText>;
+
+QString plainOf(const QString &tip)
+{
+    return QTextDocumentFragment::fromHtml(tip).toPlainText();
+}
 
 int widthOf(const QString &text, const QFont &font)
 {
@@ -100,7 +106,7 @@ void addCell(const QTableView *table, const QModelIndex &cell, Texts *texts)
         texts->append(
             {table, marks,
              widthOf(marks, ThemeManager::font(TextSize::Caption, true)) + 2 * MarkPadding, given});
-    const QString hint = cell.data(Qt::ToolTipRole).toString().section('\n', 1);
+    const QString hint = plainOf(cell.data(Qt::ToolTipRole).toString()).section('\n', 1);
     texts->append({table, hint, widthOf(hint, ThemeManager::font(TextSize::Caption)), given});
 }
 
@@ -137,7 +143,7 @@ void add(const QWidget *widget, Texts *texts)
     else if (const auto *const edit = qobject_cast<const QLineEdit *>(widget))
         texts->append({edit, edit->placeholderText(),
                        widthOf(edit->placeholderText(), edit->font()), edit->width() - 24});
-    texts->append({widget, widget->toolTip(), 0, 0});
+    texts->append({widget, plainOf(widget->toolTip()), 0, 0});
     texts->append({widget, widget->accessibleName(), 0, 0});
 }
 

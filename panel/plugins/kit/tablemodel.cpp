@@ -1,6 +1,7 @@
 #include "tablemodel.h"
 
 #include <algorithm>
+#include <brisa/plaintip.h>
 
 namespace kit
 {
@@ -63,8 +64,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return cell(index).text;
     if (role == Qt::ToolTipRole) {
         const Cell &shown = cell(index);
-        return QString(shown.text + (shown.hint.isEmpty() ? QString() : '\n' + shown.hint))
-            .toHtmlEscaped();
+        return brisa::plainTip(shown.text + (shown.hint.isEmpty() ? QString() : '\n' + shown.hint));
     }
     if (role == Qt::AccessibleDescriptionRole) {
         QStringList marks;

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QScroller>
+#include <brisa/plaintip.h>
 
 ProgramModel::ProgramModel(Instructions *instructions, QObject *parent)
     : QAbstractListModel(parent)
@@ -39,9 +40,8 @@ QVariant ProgramModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return line;
-    case Qt::ToolTipRole: // as it is, never as markup
-        return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
-            .arg(line.left(programtext::LongestLine).toHtmlEscaped());
+    case Qt::ToolTipRole:
+        return brisa::plainTip(line.left(programtext::LongestLine));
     case Qt::UserRole:
         return m_instructions->typeOf(line);
     default:

@@ -1,24 +1,11 @@
-#include "pagefixture.h"
 #include "panelapplication.h"
+#include "programfixture.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QLineEdit>
-#include <QListView>
-#include <QRegularExpression>
-#include <brisa/basecontentwidget.h>
-#include <brisa/rlmanager.h>
 #include <cerrno>
 #include <ostrel/moduleobject.h>
-#include <stdexcept>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
-#include <zeplet/interface/interfacemanager.h>
-#include <zeplet/rl/rlcontentbase.h>
-#include <zeplet/rl/rlmanager.h>
-
-#include <QFormLayout>
 
 static mode_t s_unsynced = 0; // the kind of file whose sync fails
 
@@ -33,259 +20,15 @@ extern "C" __attribute__((visibility("default"))) int fsync(int handle)
     return static_cast<int>(::syscall(SYS_fsync, handle));
 }
 
-using zeplet::RLContentBase;
-using zeplet::RLManager;
+using programfixture::program;
 using zeplet::zepletInterface;
 
-namespace
-{
-
-QString disk()
-{
-    static const QTemporaryDir directory;
-    return directory.path();
-}
-
-simulator::Scenario cell()
-{
-    QString error;
-    auto scenario = simulator::Scenario::fromText(R"({"robot": {"power": "on"}})", &error);
-    if (!scenario)
-        qFatal("%s", qPrintable(error));
-    scenario->files = {disk(), 0};
-    return *scenario;
-}
-
-/** "ArcStart(current, time)" with two fields, as a plugin would make it. */
-class ArcStart : public RLContentBase
-{
-public:
-    ArcStart()
-        : m_current(new QLineEdit(this))
-        , m_time(new QLineEdit("0.5", this))
-    {
-        m_current->setObjectName("current");
-        m_time->setObjectName("time");
-        auto *const form = new QFormLayout(this);
-        form->addRow("Current in A", m_current);
-        form->addRow("Gas before in s", m_time);
-    }
-
-    void FillWith(const QString &text) override
-    {
-        const auto match = QRegularExpression("\\((.*), (.*)\\)").match(text);
-        m_current->setText(match.captured(1));
-        m_time->setText(match.captured(2));
-    }
-    QString ToString() override
-    {
-        if (m_current->text() == "666")
-            throw std::runtime_error("no such current");
-        return QString("ArcStart(%1, %2)").arg(m_current->text(), m_time->text());
-    }
-    bool CheckInsert() override { return !m_current->text().isEmpty(); }
-    bool CheckReplace() override { return CheckInsert(); }
-
-private:
-    QLineEdit *m_current;
-    QLineEdit *m_time;
-};
-
-RLContentBase *failing()
-{
-    throw std::runtime_error("torch not found");
-}
-
-void registerInstructions()
-{
-    RLManager manager;
-    const auto make = [] { return new ArcStart; };
-    const auto none = [] { return nullptr; };
-    manager.createGroups("weld", "Welding");
-    manager.createData("weld", "ArcStart", "Strikes the arc: current and gas", make, make);
-    manager.createPattern("ArcStart", "^\\s*ArcStart\\([^()]*\\)\\s*(?://.*)?$");
-    manager.createData("weld", "ArcEnd", "Ends the arc and fills the crater", none, none);
-    manager.createTypeKey("ArcAny"); // fits what ArcStart fits, too
-    manager.createPattern("ArcAny", "Arc");
-    manager.createTypeToGroup("weld", QStringList {"ArcAny", "ArcStart"});
-    manager.createInsDefault("ArcAny", "Arc(1)\nArc(2)");
-    manager.createInsDescribe("ArcAny", "Two arcs, without a widget");
-    manager.createSkeleton("WaitDi", "WaitDi(signal, value)"); // has a group, but no type key
-    manager.createPattern("WaitDi", "^\\s*WaitDi\\(");
-    manager.createTypeToGroup("logic", "WaitDi");
-    manager.createInsDescribe("WaitDi", "Waits until an input has the value");
-    manager.createTypeKey("Bare");
-    manager.createData("faults", "Thrower", "", failing, failing);
-    manager.createData("faults", "Empty", "", nullptr, nullptr);
-    manager.createData("faults", "Null", "", none, none);
-    brisa::RlManager::getRlManager().insertWidgets["Null"] = [](QWidget *) { return nullptr; };
-}
-
-const QString program = "// Seam 1, left side\n"
-                        "\n"
-                        "WaitDi(di_ready, 1)\n"
-                        "  ArcStart(160, 0.5)  // warm up\n"
-                        "MoveL p1, v100, z10\n"
-                        "ArcEnd\n";
-
-} // namespace
-
-/** The page of programs as a person uses it, with well-made and with broken instructions. */
-class TestProgramPage : public QObject
+/** The page of programs as a person uses it: its files, on the disk and on the controller. */
+class TestProgramPage : public ProgramPageTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        qputenv("RSYNC_CONNECT_PROG",
-                QByteArray("socat - TCP:127.0.0.1:")
-                    + QByteArray::number(m_panel.simulator.rsyncPort()));
-        registerInstructions();
-        QVERIFY(m_panel.start());
-        QCOMPARE(zepletInterface()->createProject("cell", "", true), 0);
-        QTRY_VERIFY(QDir(disk()).exists("hmi/cell/program"));
-        QVERIFY(m_panel.show("zeplet.page-program"));
-    }
-
-    void init() { open("seam", program); }
-
-    void linesAreRecognised_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("type");
-        QTest::newRow("pattern") << "ArcStart(160, 0.5)"
-                                 << "ArcStart";
-        QTest::newRow("of an earlier type") << "  ArcStart(1, 2) // hot"
-                                            << "ArcStart";
-        QTest::newRow("of a later type") << "ArcStart(1"
-                                         << "ArcAny";
-        QTest::newRow("of a whole instruction") << "\tArcEnd // out"
-                                                << "ArcEnd";
-        QTest::newRow("without a type key") << "WaitDi(di_1, 0)"
-                                            << "WaitDi";
-        QTest::newRow("with carriage return") << "ArcEnd\r"
-                                              << "ArcEnd";
-        QTest::newRow("unknown") << "MoveL p1" << QString();
-        QTest::newRow("comment") << " // ArcEnd" << QString();
-        QTest::newRow("too long") << "ArcEnd" + QString(1000, ' ') << QString();
-    }
-
-    void linesAreRecognised()
-    {
-        QFETCH(QString, line);
-        open("types", line + "\n");
-        QTEST(lines()->index(0, 0).data(Qt::UserRole).toString(), "type");
-    }
-
-    void instructionsAreInserted_data()
-    {
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("current"); // what is entered
-        QTest::addColumn<QString>("sentence"); // of the dialog; null: it ends
-        QTest::addColumn<QString>("added"); // behind the indented fourth line
-        const QString no;
-        QTest::newRow("widget") << "Welding"
-                                << "ArcStart"
-                                << "90" << no << "  ArcStart(90, 0.5)\n";
-        QTest::newRow("incomplete") << "Welding"
-                                    << "ArcStart"
-                                    << ""
-                                    << "can't be inserted yet" << no;
-        QTest::newRow("ToString throws") << "Welding"
-                                         << "ArcStart"
-                                         << "666"
-                                         << "\"no such current\"" << no;
-        QTest::newRow("breaks in a line") << "Welding"
-                                          << "ArcStart"
-                                          << "1\x01"
-                                          << "no text" << no;
-        QTest::newRow("no content: skeleton") << "Welding"
-                                              << "ArcEnd" << no << no << "  ArcEnd\n";
-        QTest::newRow("no widget: default") << "Welding"
-                                            << "ArcAny" << no << no << "  Arc(1)\n  Arc(2)\n";
-        QTest::newRow("no widget, no default: skeleton")
-            << "logic"
-            << "WaitDi" << no << no << "  WaitDi(signal, value)\n";
-        QTest::newRow("nothing at all") << "Others"
-                                        << "Bare" << no << "neither a widget" << no;
-        QTest::newRow("maker throws") << "faults"
-                                      << "Thrower" << no << "\"torch not found\"" << no;
-        QTest::newRow("empty function") << "faults"
-                                        << "Empty" << no << "empty function" << no;
-        QTest::newRow("null widget") << "faults"
-                                     << "Null" << no << "gave no widget" << no;
-    }
-
-    void instructionsAreInserted()
-    {
-        QFETCH(QString, group);
-        QFETCH(QString, type);
-        QFETCH(QString, current);
-        QFETCH(QString, sentence);
-        QFETCH(QString, added);
-        choose(3);
-        QVERIFY(m_panel.click("insertLine"));
-        QVERIFY(!m_panel.click("insert")); // nothing is chosen
-        QVERIFY(m_panel.tap("instructionGroups", group));
-        QVERIFY(m_panel.tap("instructionTypes", type));
-        QVERIFY(m_panel.click("insert"));
-        if (auto *const field = m_panel.find<QLineEdit>("current"))
-            field->setText(current);
-        if (m_panel.find<QWidget>("insertDialog") && m_panel.find<QWidget>("back"))
-            QVERIFY(m_panel.click("insert"));
-        QCOMPARE(m_panel.find<QWidget>("insertDialog") == nullptr, sentence.isNull());
-        if (!sentence.isNull())
-            QVERIFY2(told().contains(sentence), qPrintable(told()));
-        QString expected = program;
-        expected.insert(expected.indexOf("MoveL"), added);
-        QCOMPARE(onPanel("seam"), expected.toUtf8());
-        if (sentence.isNull())
-            QCOMPARE(view()->currentIndex().row(), 3 + added.count('\n'));
-    }
-
-    void propertiesReplaceTheirLine_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("now"); // null: the dialog stays, or is not there
-        QTest::addColumn<QString>("sentence");
-        QTest::newRow("indentation and comment stay") << "\t ArcStart(1, 2)  // \"hot\""
-                                                      << "\t ArcStart(77, 2)  // \"hot\""
-                                                      << "";
-        QTest::newRow("carriage return stays") << "ArcStart(1, 2)\r"
-                                               << "ArcStart(77, 2)\r"
-                                               << "";
-        QTest::newRow("slashes in quotes are no comment") << "ArcStart(1, \"a//b\")"
-                                                          << "ArcStart(77, \"a//b\")"
-                                                          << "";
-        QTest::newRow("nothing to enter") << "\tArcEnd // out"
-                                          << "\tArcEnd // out"
-                                          << "";
-        QTest::newRow("refused") << "ArcStart(9, 9)" << QString() << "can't be applied yet";
-        QTest::newRow("maker throws") << "Thrower" << QString() << "torch not found";
-        QTest::newRow("empty function") << "Empty" << QString() << "empty function";
-    }
-
-    void propertiesReplaceTheirLine()
-    {
-        QFETCH(QString, line);
-        QFETCH(QString, now);
-        QFETCH(QString, sentence);
-        open("properties", "// first\n" + line + "\n");
-        choose(1);
-        QVERIFY(m_panel.click("editProperties"));
-        if (auto *const field = m_panel.find<QLineEdit>("current"))
-            field->setText(now.isNull() ? "" : "77");
-        m_panel.click("apply");
-        QCOMPARE(m_panel.find<QWidget>("propertyDialog") == nullptr,
-                 !now.isNull() || !line.startsWith("Arc"));
-        const QString said = told() + m_panel.notice();
-        QVERIFY2(said.contains(sentence), qPrintable(said));
-        QCOMPARE(onPanel("properties"),
-                 ("// first\n" + (now.isNull() ? line : now) + '\n').toUtf8());
-    }
-
     void editsAreOnTheDiskAtOnceAndUndone()
     {
         choose(4);
@@ -386,9 +129,8 @@ private Q_SLOTS:
         QFETCH(QString, accepting);
         choose(3);
         if (opening == "insertLine")
-            enter("widget");
-        else
-            QVERIFY(m_panel.click(opening));
+            chooseInstruction("Welding", "ArcStart");
+        QVERIFY(m_panel.click(opening == "insertLine" ? "insert" : opening));
         m_panel.find<QLineEdit>(field)->setText("90");
         s_unsynced = S_IFREG;
         QVERIFY(m_panel.click(accepting));
@@ -538,38 +280,11 @@ private Q_SLOTS:
         QTRY_COMPARE(programs()->currentText(), QString("seam"));
     }
 
-    // Last: a pattern that is left out stays so.
-    void brokenPatternsEndInASentence_data()
-    {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("not closed") << "^Slow("
-                                    << "missing closing";
-        QTest::newRow("takes for ever") << "^Slow((a+)+)+$"
-                                        << "too long";
-    }
-
-    void brokenPatternsEndInASentence()
-    {
-        QFETCH(QString, pattern);
-        QFETCH(QString, reason);
-        auto &types = brisa::RlManager::getRlManager().typeKeys;
-        types.removeAll("Slow");
-        types.prepend("Slow");
-        RLManager().createPattern("Slow", pattern);
-        open("slow", "Slow" + QString(200, 'a') + "!\nArcEnd\n");
-        QTRY_VERIFY2(kept().contains(reason), qPrintable(kept()));
-        QCOMPARE(lines()->index(1, 0).data(Qt::UserRole).toString(), QString("ArcEnd"));
-        RLManager().createPattern("Slow", "^Slow$");
-        QVERIFY(reopen("slow"));
-    }
-
     void looks_data()
     {
         QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("theme");
-        for (const char *state : {"list", "insert", "widget", "sentence", "properties", "running",
-                                  "broken", "offline", "none"}) {
+        for (const char *state : {"list", "running", "offline", "none"}) {
             for (const char *theme : {"light", "dark"})
                 QTest::addRow("program-%s-%s", state, theme) << state << theme;
         }
@@ -582,117 +297,16 @@ private Q_SLOTS:
         choose(3);
         enter(state);
         QCOMPARE(m_panel.looks(theme), QString());
-        if (state == "broken")
-            RLManager().createPattern("Slow", "^Slow$");
         if (state == "none")
             QCOMPARE(zepletInterface()->changeProject("cell"), 0);
     }
 
-    void cleanup()
-    {
-        m_panel.click("cancel");
-        m_panel.simulator.control("program stop");
-        m_panel.simulator.control("fault clear");
-        QTRY_VERIFY(PageFixture::isConnected());
-        QTRY_VERIFY(!m_panel.find<QWidget>("busy"));
-    }
-
-    void cleanupTestCase() { QVERIFY(m_panel.session->finish()); }
-
 private:
-    QString path(const QString &name) const
-    {
-        return m_panel.workspace() + '/' + zepletInterface()->getCurProject() + "/program/" + name
-            + ".prog";
-    }
-
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? QByteArray("") + file.readAll() : QByteArray();
-    }
-
-    QByteArray onPanel(const QString &name) const { return contentOf(path(name)); }
-    QByteArray onController(const QString &name) const
-    {
-        return contentOf(disk() + "/hmi/cell/program/" + name + ".prog");
-    }
-
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
-    QListView *view() const { return m_panel.find<QListView>("programLines"); }
-    QAbstractItemModel *lines() const { return view()->model(); }
-    QComboBox *programs() const { return m_panel.find<QComboBox>("programs"); }
-    QString state() const { return m_panel.find<QWidget>("programState")->accessibleName(); }
-
-    /** What a dialog of an instruction or a line says. */
-    QString told() const
-    {
-        const auto *label = m_panel.find<QLabel>("instructionSentence");
-        label = label ? label : m_panel.find<QLabel>("validation");
-        return label ? label->text() : QString();
-    }
-
-    /** What the page says for as long as it is so, too. */
-    QString kept() const
-    {
-        QStringList sentences;
-        for (const QLabel *const label : m_panel.window().findChildren<QLabel *>("notice")) {
-            if (label->isVisible())
-                sentences.append(label->text());
-        }
-        return sentences.join(' ');
-    }
-
-    /** Reads the page anew, and chooses the program. */
-    bool reopen(const QString &name)
-    {
-        if (!m_panel.window().showPage("panel.home") || !m_panel.show("zeplet.page-program"))
-            return false;
-        const int at = programs()->findText(name);
-        programs()->setCurrentIndex(at);
-        Q_EMIT programs()->activated(at);
-        return at >= 0;
-    }
-
-    void open(const QString &name, const QString &text)
-    {
-        write(name, text.toUtf8());
-        QVERIFY(reopen(name));
-        QCOMPARE(lines()->rowCount(), text.count('\n'));
-    }
-
-    void choose(int row) { view()->setCurrentIndex(lines()->index(row, 0)); }
-
-    bool press(const QString &name)
-    {
-        return QTest::qWaitFor([&] { return m_panel.click(name); });
-    }
-
     void enter(const QString &state)
     {
-        if (state == "insert" || state == "widget" || state == "sentence") {
-            QVERIFY(m_panel.click("insertLine"));
-            QVERIFY(m_panel.tap("instructionGroups", state == "sentence" ? "faults" : "Welding"));
-            QVERIFY(m_panel.tap("instructionTypes", state == "sentence" ? "Thrower" : "ArcStart"));
-        }
-        if (state == "widget" || state == "sentence")
-            QVERIFY(m_panel.click("insert"));
-        if (state == "properties")
-            QVERIFY(m_panel.click("editProperties"));
         if (state == "running") {
             m_panel.simulator.control("program start");
             QTRY_VERIFY(!m_panel.find<QAbstractButton>("sendProgram")->isEnabled());
-        }
-        if (state == "broken") {
-            RLManager().createPattern("Slow", "^Slow(");
-            QVERIFY(reopen("seam"));
         }
         if (state == "offline") {
             m_panel.simulator.control("fault controller_down");
@@ -701,8 +315,6 @@ private:
         if (state == "none")
             m("tavik.project.cur_project")->set(nullptr, QString());
     }
-
-    PageFixture m_panel {cell()};
 };
 
 int main(int argc, char *argv[])

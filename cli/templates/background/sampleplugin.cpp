@@ -1,6 +1,7 @@
 // Counts the program's starts and shows the count in the status bar, whatever page is open.
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -26,12 +27,15 @@ public:
 
     void init() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
     void createPage();
     void showStarts();
 
     QPointer<QWidget> m_page;
+    QLabel *m_text = nullptr;
     QPointer<QLabel> m_status;
     int m_starts = 0;
 };
@@ -42,7 +46,7 @@ void SamplePlugin::init()
     m_status = new QLabel;
     m_status->setObjectName("sample_starts");
     CreateStatusBar(pluginName, m_status, 0);
-    showStarts();
+    translate();
 
     // With the plugin as its context, the subscription ends when the plugin goes.
     const auto count = [this](const ZepletEvent &) {
@@ -50,6 +54,22 @@ void SamplePlugin::init()
         showStarts();
     };
     zepletEvent()->subscribe(RCRunStart, count, pluginName, this);
+}
+
+// The page hears of another language.
+bool SamplePlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+// All texts, each time the operator chooses a language.
+void SamplePlugin::translate()
+{
+    m_text->setText(tr("The status bar counts how often the program was started since the panel "
+                       "began to run."));
+    showStarts();
 }
 
 // The last call: leave nothing behind.
@@ -62,12 +82,12 @@ void SamplePlugin::detach()
 void SamplePlugin::createPage()
 {
     m_page = new QWidget;
-    auto *text = new QLabel(tr("The status bar counts how often the program was started since the "
-                               "panel began to run."));
-    text->setWordWrap(true);
+    m_page->installEventFilter(this);
+    m_text = new QLabel;
+    m_text->setWordWrap(true);
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
-    layout->addWidget(text);
+    layout->addWidget(m_text);
     layout->addStretch();
     CreateCenterWidget(pluginName, m_page);
 }

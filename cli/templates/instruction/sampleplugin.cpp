@@ -2,6 +2,7 @@
 // that the editor uses, and the line that it makes.
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
@@ -28,16 +29,18 @@ class SampleContent : public RLContentBase
 public:
     explicit SampleContent(QWidget *parent = nullptr)
         : RLContentBase(parent)
+        , m_label(new QLabel)
         , m_times(new QSpinBox)
     {
         m_times->setObjectName("times");
         m_times->setRange(1, 100);
         auto *layout = new QHBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0); // whoever shows it has margins
-        layout->addWidget(new QLabel(tr("Times")));
+        layout->addWidget(m_label);
         layout->addWidget(m_times);
         layout->addStretch();
         connect(m_times, qOverload<int>(&QSpinBox::valueChanged), this, &SampleContent::changed);
+        translate();
     }
 
     /** A line of the program is to be edited. */
@@ -57,7 +60,18 @@ public:
 Q_SIGNALS:
     void changed();
 
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        RLContentBase::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange)
+            translate();
+    }
+
 private:
+    void translate() { m_label->setText(tr("Times")); }
+
+    QLabel *m_label;
     QSpinBox *m_times;
 };
 
@@ -75,18 +89,39 @@ public:
 
     void init() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
     void addInstruction();
     void createPage();
 
     QPointer<QWidget> m_page;
+    QLabel *m_text = nullptr;
 };
 
 void SamplePlugin::init()
 {
     addInstruction();
     createPage();
+    translate();
+}
+
+// The page hears of another language.
+bool SamplePlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+// All texts, each time the operator chooses a language; the editor takes the last description.
+void SamplePlugin::translate()
+{
+    RLManager().createInsDescribe(instruction, tr("Does something several times."));
+    m_text->setText(tr("The page Program can insert the instruction %1. To try it here, change the "
+                       "number: the line below is what goes into the program.")
+                        .arg(instruction));
 }
 
 // The last call: leave nothing behind. Instructions stay as long as the panel runs.
@@ -100,8 +135,7 @@ void SamplePlugin::addInstruction()
     const auto content = [] { return new SampleContent; };
     RLManager editor;
     editor.createGroups(pluginName, getPluginLabel());
-    editor.createData(pluginName, instruction, tr("Does something several times."), content,
-                      content);
+    editor.createData(pluginName, instruction, QString(), content, content); // described below
     // createData() expects the word alone: this instruction has a number behind it.
     editor.createPattern(instruction, pattern);
     editor.createSkeleton(instruction, instruction + QStringLiteral(" <times>"));
@@ -111,6 +145,7 @@ void SamplePlugin::addInstruction()
 void SamplePlugin::createPage()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *content = new SampleContent;
     auto *line = new QLabel(content->ToString());
     line->setObjectName("line");
@@ -119,11 +154,9 @@ void SamplePlugin::createPage()
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    auto *text = new QLabel(tr("The page Program can insert the instruction %1. To try it here, "
-                               "change the number: the line below is what goes into the program.")
-                                .arg(instruction));
-    text->setWordWrap(true);
-    layout->addWidget(text);
+    m_text = new QLabel;
+    m_text->setWordWrap(true);
+    layout->addWidget(m_text);
     layout->addWidget(content);
     layout->addWidget(line);
     layout->addStretch();

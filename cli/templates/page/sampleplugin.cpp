@@ -1,6 +1,7 @@
 // A page with a button that switches the motors, and a line that shows what the robot reports.
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -27,29 +28,33 @@ public:
 
     void init() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
     void switchMotors();
     void showMotors();
 
     QPointer<QWidget> m_page;
     QLabel *m_motors = nullptr;
+    QPushButton *m_switch = nullptr;
 };
 
 // The panel is there: build the page, then subscribe to what it shows.
 void SamplePlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     m_motors = new QLabel;
     m_motors->setObjectName("motors");
-    auto *button = new QPushButton(tr("Switch the motors"));
-    connect(button, &QPushButton::clicked, this, &SamplePlugin::switchMotors);
+    m_switch = new QPushButton;
+    connect(m_switch, &QPushButton::clicked, this, &SamplePlugin::switchMotors);
 
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
     layout->addWidget(m_motors);
-    layout->addWidget(button, 0, Qt::AlignLeft);
+    layout->addWidget(m_switch, 0, Qt::AlignLeft);
     layout->addStretch();
     CreateCenterWidget(pluginName, m_page);
 
@@ -57,6 +62,21 @@ void SamplePlugin::init()
     for (ZepletEventType type : {RCPowerStatusChange, NetworkConnected, NetworkDisconnected})
         zepletEvent()->subscribe(
             type, [this](const ZepletEvent &) { showMotors(); }, pluginName, m_page);
+    translate();
+}
+
+// The page hears of another language.
+bool SamplePlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+// All texts of the page, each time the operator chooses a language.
+void SamplePlugin::translate()
+{
+    m_switch->setText(tr("Switch the motors"));
     showMotors();
 }
 

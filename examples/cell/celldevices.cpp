@@ -16,13 +16,15 @@ bool CellDevices::setLamp(bool on)
         && zepletInterface()->setNexoData("cell", "beacon", on);
 }
 
-QString CellDevices::temperature() const
+Sentence CellDevices::temperature() const
 {
     const QJsonValue degrees = zepletInterface()->getNexoData("demo.temperature");
     const QJsonValue person = zepletInterface()->getNexoData("demo", "operator");
     if (!degrees.isDouble())
-        return tr("The sensor says nothing.");
-    return tr("%1 °C, %2 looks after it.").arg(degrees.toDouble()).arg(person.toString());
+        return [] { return tr("The sensor says nothing."); };
+    return [=] {
+        return tr("%1 °C, %2 looks after it.").arg(degrees.toDouble()).arg(person.toString());
+    };
 }
 
 // The first command is not waited for: what it does can be seen.
@@ -38,27 +40,27 @@ Gripper::Gripper(QObject *parent)
 }
 
 // One command of several steps, which the service carries out in this order.
-QString Gripper::grip(int newtons)
+Sentence Gripper::grip(int newtons)
 {
     const QJsonObject force {{"force", newtons}};
     if (zepletInterface()->commandCustomData(this, "gripper", force).isEmpty())
-        return tr("The gripper did not answer.");
+        return [] { return tr("The gripper did not answer."); };
     return sentence(zepletInterface()->commandCustomData(
         this, QJsonArray {QJsonObject {{"gripper", "close"}}, QJsonObject {{"gripper", "hold"}}}));
 }
 
-QString Gripper::release()
+Sentence Gripper::release()
 {
     zepletInterface()->commandCustomData(this, QJsonObject {{"gripper", "open"}});
     return sentence(zepletInterface()->commandCustomData(this, "gripper", "get", "state"));
 }
 
-QString Gripper::sentence(const QJsonArray &answer) const
+Sentence Gripper::sentence(const QJsonArray &answer) const
 {
     if (answer.isEmpty())
-        return tr("The gripper did not answer.");
-    return tr("The gripper answered: %1")
-        .arg(QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact)));
+        return [] { return tr("The gripper did not answer."); };
+    const QString text = QString::fromUtf8(QJsonDocument(answer).toJson(QJsonDocument::Compact));
+    return [=] { return tr("The gripper answered: %1").arg(text); };
 }
 
 CellController::CellController(QObject *parent)
@@ -79,16 +81,17 @@ bool CellController::runConveyor(bool on)
 }
 
 // The newer controllers say more of themselves.
-QString CellController::description() const
+Sentence CellController::description() const
 {
     const QJsonValue parameters
         = zepletInterface()->rcExecRequest("system", "controller.get_params", QJsonValue());
     const QJsonValue projects
         = zepletInterface()->rcExecRequestFullCommand("project.overview.get", QJsonValue());
     if (parameters.isNull() || projects.isNull())
-        return tr("The controller did not answer.");
+        return [] { return tr("The controller did not answer."); };
     const QString robot = parameters["robot"].toString();
     const int count = projects["projects"].toArray().size();
-    return zeplet::checkBrisaVersion("3.") ? tr("A %1. Projects: %2.").arg(robot).arg(count)
-                                           : tr("An old %1.").arg(robot);
+    if (!zeplet::checkBrisaVersion("3."))
+        return [=] { return tr("An old %1.").arg(robot); };
+    return [=] { return tr("A %1. Projects: %2.").arg(robot).arg(count); };
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <zeplet/zeplet.h>
+
+/** Says something in the language of the moment. */
+using Sentence = std::function<QString()>;
 
 /** The lamp and the sensors, as values of the service hub. GUI thread. */
 class CellDevices : public zeplet::ServiceInterface
@@ -11,8 +15,8 @@ public:
     explicit CellDevices(QObject *parent);
 
     bool setLamp(bool on);
-    /** What the sensor says, as a sentence. */
-    QString temperature() const;
+    /** What the sensor says. */
+    Sentence temperature() const;
     /** Waits for the hub, and says whether it agreed. */
     bool reset();
 };
@@ -25,12 +29,12 @@ class Gripper : public zeplet::CustomInterface
 public:
     explicit Gripper(QObject *parent);
 
-    /** Wait for the gripper, and say in a sentence what it answered. */
-    QString grip(int newtons);
-    QString release();
+    /** Wait for the gripper, and say what it answered. */
+    Sentence grip(int newtons);
+    Sentence release();
 
 private:
-    QString sentence(const QJsonArray &answer) const;
+    Sentence sentence(const QJsonArray &answer) const;
 };
 
 /** What the controller can do that InterfaceManager has no operation for. GUI thread. */
@@ -43,5 +47,5 @@ public:
 
     bool runConveyor(bool on);
     /** Waits for the controller. */
-    QString description() const;
+    Sentence description() const;
 };

@@ -3,7 +3,9 @@
 // operator's log banner.
 #include <zeplet/zeplet.h>
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -18,6 +20,7 @@ using namespace zeplet;
 namespace
 {
 const QString pluginName = QStringLiteral("cycletime");
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class CycleTimePlugin : public PluginBase
@@ -37,8 +40,11 @@ public:
     void render() override;
     void idle() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     static QString seconds(qint64 milliseconds);
     void start();
     void stop();
@@ -49,8 +55,15 @@ private:
     QPointer<QWidget> m_page;
     QPointer<QMessageBox> m_question;
     QPointer<QLabel> m_statistics;
+    QLabel *m_title = nullptr;
+    QLabel *m_thisCycle = nullptr;
+    QLabel *m_warnAbove = nullptr;
+    QLabel *m_library = nullptr;
+    QPushButton *m_large = nullptr;
+    QPushButton *m_clear = nullptr;
     QLabel *m_time = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence = [] { return tr("Start the program: each run is a cycle."); };
     QSpinBox *m_limit = nullptr;
     QElapsedTimer m_running; ///< invalid while no program runs
     QVector<qint64> m_cycles; ///< milliseconds
@@ -60,34 +73,38 @@ private:
 void CycleTimePlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    auto *title = new QLabel(getPluginLabel());
-    title->setProperty("role", "heading");
-    m_time = new QLabel(seconds(0));
+    m_title = new QLabel;
+    m_title->setProperty("role", "heading");
+    m_time = new QLabel;
     m_time->setObjectName("cycleTime");
     m_limit = new QSpinBox;
     m_limit->setRange(1, 3600);
     m_limit->setValue(60);
-    m_limit->setSuffix(tr(" s"));
-    auto *clearButton = new QPushButton(tr("Clear"));
-    m_notice = new QLabel(tr("Start the program: each run is a cycle."));
+    m_thisCycle = new QLabel;
+    m_warnAbove = new QLabel;
+    m_library = new QLabel;
+    m_large = new QPushButton;
+    m_large->setCheckable(true);
+    m_clear = new QPushButton;
+    m_notice = new QLabel;
     m_notice->setWordWrap(true);
-    layout->addWidget(title, 0, 0, 1, 2);
-    layout->addWidget(new QLabel(tr("This cycle")), 1, 0);
+    layout->addWidget(m_title, 0, 0, 1, 2);
+    layout->addWidget(m_thisCycle, 1, 0);
     layout->addWidget(m_time, 1, 1);
-    layout->addWidget(new QLabel(tr("Warn above")), 2, 0);
+    layout->addWidget(m_warnAbove, 2, 0);
     layout->addWidget(m_limit, 2, 1);
-    auto *large = new QPushButton(tr("Large digits"));
-    large->setCheckable(true);
-    layout->addWidget(large, 3, 0);
-    layout->addWidget(clearButton, 3, 1);
+    layout->addWidget(m_large, 3, 0);
+    layout->addWidget(m_clear, 3, 1);
     layout->addWidget(m_notice, 4, 0, 1, 2, Qt::AlignTop);
-    layout->addWidget(new QLabel(tr("Library %1").arg(GetPluginVersion())), 5, 0, 1, 2);
+    layout->addWidget(m_library, 5, 0, 1, 2);
     layout->setRowStretch(4, 1);
-    connect(large, &QPushButton::toggled, this, &CycleTimePlugin::setLarge);
-    connect(clearButton, &QPushButton::clicked, this, &CycleTimePlugin::askToClear);
+    connect(m_large, &QPushButton::toggled, this, &CycleTimePlugin::setLarge);
+    connect(m_clear, &QPushButton::clicked, this, &CycleTimePlugin::askToClear);
+    translate();
     CreateCenterWidget(pluginName, m_page);
     zepletEvent()->subscribe(
         RCRunStart, [this](auto &) { start(); }, pluginName, m_page);
@@ -95,12 +112,43 @@ void CycleTimePlugin::init()
         RCRunStop, [this](auto &) { stop(); }, pluginName, m_page);
 }
 
+// The page hears of another language.
+bool CycleTimePlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void CycleTimePlugin::translate()
+{
+    // As the navigation says it.
+    m_title->setText(QCoreApplication::translate("navigation", qUtf8Printable(getPluginLabel())));
+    m_thisCycle->setText(tr("This cycle"));
+    m_warnAbove->setText(tr("Warn above"));
+    m_limit->setSuffix(tr(" s"));
+    m_large->setText(tr("Large digits"));
+    m_clear->setText(tr("Clear"));
+    m_library->setText(tr("Library %1").arg(GetPluginVersion()));
+    m_time->setText(seconds(m_cycles.isEmpty() ? 0 : m_cycles.last()));
+    m_changed = true; // the statistics are said again, too
+    if (m_statistics)
+        m_statistics->setWindowTitle(m_title->text());
+    say(m_sentence);
+}
+
+void CycleTimePlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
+}
+
 // By now the panel has its side bar, if it has one at all; else the statistics go below the times.
 void CycleTimePlugin::afterInit()
 {
     m_statistics = new QLabel;
     m_statistics->setObjectName("statistics");
-    m_statistics->setWindowTitle(getPluginLabel());
+    m_statistics->setWindowTitle(m_title->text());
     m_statistics->setMargin(16);
     m_statistics->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     QWidget *sideBar = nullptr;
@@ -149,7 +197,7 @@ QString CycleTimePlugin::seconds(qint64 milliseconds)
 void CycleTimePlugin::start()
 {
     m_running.start();
-    m_notice->setText(tr("The program runs."));
+    say([] { return tr("The program runs."); });
 }
 
 // A program that ran before this plugin was there has no known start.
@@ -162,7 +210,7 @@ void CycleTimePlugin::stop()
     m_cycles.append(cycle);
     m_changed = true;
     m_time->setText(seconds(cycle));
-    m_notice->setText(tr("The last cycle took %1.").arg(seconds(cycle)));
+    say([=] { return tr("The last cycle took %1.").arg(seconds(cycle)); });
     if (cycle > m_limit->value() * 1000LL)
         ThrowLog(pluginName, ThrowLogWarning,
                  tr("The cycle took %1: see what holds it up.").arg(seconds(cycle)));
@@ -171,7 +219,7 @@ void CycleTimePlugin::stop()
 // Does not wait for the answer: the panel has to live on, above all its keys to stop the robot.
 void CycleTimePlugin::askToClear()
 {
-    m_question = new QMessageBox(QMessageBox::Question, getPluginLabel(),
+    m_question = new QMessageBox(QMessageBox::Question, m_title->text(),
                                  tr("Forget all cycle times? There are %1.").arg(m_cycles.size()),
                                  QMessageBox::Yes | QMessageBox::No, m_page);
     m_question->setAttribute(Qt::WA_DeleteOnClose);

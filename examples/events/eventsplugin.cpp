@@ -3,6 +3,7 @@
 // statistics, and how to leave it.
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -38,6 +39,8 @@ ZepletEventType shiftStarted()
     static const ZepletEventType type = zepletEvent()->registerCustomEventType("ShiftStarted");
     return type;
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class EventsPlugin : public PluginBase
@@ -53,8 +56,11 @@ public:
 
     void init() override;
     void detach() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void createButtons(QGridLayout *layout);
     void followBus();
     void count();
@@ -68,6 +74,8 @@ private:
     QLabel *m_counts = nullptr;
     QLabel *m_bus = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence
+        = [] { return tr("Say of each part whether it is good. Each program that ends is one."); };
     QListWidget *m_journal = nullptr;
     QString m_question; ///< the subscription that waits for the next part
     ZepletEvent m_last; ///< of type None until there is a part
@@ -79,6 +87,7 @@ private:
 void EventsPlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
@@ -86,8 +95,7 @@ void EventsPlugin::init()
     m_counts->setObjectName("counts");
     m_counts->setProperty("role", "heading");
     m_journal = new QListWidget;
-    m_notice
-        = new QLabel(tr("Say of each part whether it is good. Each program that ends is one."));
+    m_notice = new QLabel;
     m_notice->setWordWrap(true);
     m_bus = new QLabel;
     m_bus->setWordWrap(true);
@@ -96,10 +104,33 @@ void EventsPlugin::init()
     layout->addWidget(m_notice, 3, 0, 1, 5);
     layout->addWidget(m_bus, 4, 0, 1, 5);
     createButtons(layout);
+    translate();
     CreateCenterWidget(pluginName, m_page);
     count();
     followBus();
     startShift();
+}
+
+// The page hears of another language.
+bool EventsPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void EventsPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    say(m_sentence);
+    refresh();
+}
+
+void EventsPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
 }
 
 // Nobody can publish these types any more: what others subscribed to them ends, too.
@@ -116,18 +147,19 @@ void EventsPlugin::detach()
 
 void EventsPlugin::createButtons(QGridLayout *layout)
 {
-    const auto addButton = [=](int column, const QString &text) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [=](int column, const char *text) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         layout->addWidget(button, 1, column);
         return button;
     };
-    connect(addButton(0, tr("Good part")), &QPushButton::clicked, this,
+    connect(addButton(0, QT_TR_NOOP("Good part")), &QPushButton::clicked, this,
             [this] { report(true, tr("operator")); });
-    connect(addButton(1, tr("Rejected part")), &QPushButton::clicked, this,
+    connect(addButton(1, QT_TR_NOOP("Rejected part")), &QPushButton::clicked, this,
             [this] { report(false, tr("operator")); });
-    connect(addButton(2, tr("Check the next one")), &QPushButton::clicked, this,
+    connect(addButton(2, QT_TR_NOOP("Check the next one")), &QPushButton::clicked, this,
             &EventsPlugin::askOnce);
-    QPushButton *const pause = addButton(3, tr("Pause"));
+    QPushButton *const pause = addButton(3, QT_TR_NOOP("Pause"));
     pause->setCheckable(true);
     connect(pause, &QPushButton::toggled, this, [this](bool paused) {
         if (paused)
@@ -135,7 +167,8 @@ void EventsPlugin::createButtons(QGridLayout *layout)
         else
             count();
     });
-    connect(addButton(4, tr("New shift")), &QPushButton::clicked, this, &EventsPlugin::startShift);
+    connect(addButton(4, QT_TR_NOOP("New shift")), &QPushButton::clicked, this,
+            &EventsPlugin::startShift);
 }
 
 // The bus emits these signals in the middle of its work, the last two under its lock: queued slots
@@ -159,13 +192,15 @@ void EventsPlugin::followBus()
         },
         pluginName, m_page);
     bus->subscribe(NetworkDisconnected, adaptNetworkCallback([this] {
-                       m_notice->setText(tr("The controller is gone. Parts by hand still count."));
+                       say([] { return tr("The controller is gone. Parts by hand still count."); });
                    }),
                    pluginName, m_page);
     bus->subscribeFiltered(
         batchFull(), filterBySource(QStringLiteral("event*")),
         [this](const ZepletEvent &event) {
-            m_notice->setText(tr("Change the box: %1 parts are good.").arg(event.data.toInt()));
+            say([good = event.data.toInt()] {
+                return tr("Change the box: %1 parts are good.").arg(good);
+            });
         },
         pluginName, m_page);
 }
@@ -222,17 +257,19 @@ void EventsPlugin::askOnce()
 {
     if (zepletEvent()->hasSubscription(m_question)) {
         zepletEvent()->unsubscribe(m_question);
-        return m_notice->setText(tr("The next part is not checked."));
+        return say([] { return tr("The next part is not checked."); });
     }
     m_question = zepletEvent()->subscribeOnce(
         partDone(),
         [this](const ZepletEvent &event) {
-            m_notice->setText(event.hasProperty(operatorProperty)
-                                  ? tr("Measure this part now.")
-                                  : tr("Stop the conveyor and measure this part now."));
+            const bool byHand = event.hasProperty(operatorProperty);
+            say([=] {
+                return byHand ? tr("Measure this part now.")
+                              : tr("Stop the conveyor and measure this part now.");
+            });
         },
         pluginName, m_page);
-    m_notice->setText(tr("The next part is to be checked."));
+    say([] { return tr("The next part is to be checked."); });
 }
 
 // A part that is still on its way has a smaller number than the shift.

@@ -3,6 +3,7 @@
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -28,36 +29,43 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
     void refresh();
     void describe();
 
     QPointer<QWidget> m_page;
+    QVector<QLabel *> m_captions;
     QVector<QListWidget *> m_lists;
+    QLabel *m_title = nullptr;
     QLabel *m_motion = nullptr;
 };
 
 void FramesPlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    auto *title = new QLabel(tr("Tools, work objects, speeds and zones"));
-    title->setProperty("role", "heading");
-    layout->addWidget(title, 0, 0, 1, 4);
-    for (const QString &caption : {tr("Tool"), tr("Work object"), tr("Speed"), tr("Zone")}) {
+    m_title = new QLabel;
+    m_title->setProperty("role", "heading");
+    layout->addWidget(m_title, 0, 0, 1, 4);
+    for (int column = 0; column < 4; ++column) {
         auto *list = new QListWidget;
         connect(list, &QListWidget::currentRowChanged, this, &FramesPlugin::describe);
-        layout->addWidget(new QLabel(caption), 1, m_lists.size());
-        layout->addWidget(list, 2, m_lists.size());
+        m_captions.append(new QLabel);
         m_lists.append(list);
+        layout->addWidget(m_captions.last(), 1, column);
+        layout->addWidget(list, 2, column);
     }
     m_motion = new QLabel;
     m_motion->setTextFormat(Qt::PlainText); // names are no markup
     layout->addWidget(m_motion, 3, 0, 1, 4);
     refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
 
     // What there is changes with the project, what is selected with the operator.
@@ -67,6 +75,23 @@ void FramesPlugin::init()
                             "tavik.project.wobj._list", "tavik.setting.g_wobj.g_wobjs",
                             "tavik.project.var.system_list", "tavik.project.var._list"})
         connect(m(key), &ostrel::ModuleObject::changed, m_page, [this] { refresh(); });
+}
+
+// The page hears of another language.
+bool FramesPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void FramesPlugin::translate()
+{
+    m_title->setText(tr("Tools, work objects, speeds and zones"));
+    const QString captions[] = {tr("Tool"), tr("Work object"), tr("Speed"), tr("Zone")};
+    for (int i = 0; i < m_captions.size(); ++i)
+        m_captions[i]->setText(captions[i]);
+    describe();
 }
 
 // A project's entry may have the name of a global one: both are listed, as the panel does it.

@@ -5,6 +5,7 @@
 #include <zeplet/zeplet.h>
 
 #include <QDateTime>
+#include <QEvent>
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
@@ -41,6 +42,8 @@ bool append(const QString &path, const QByteArray &line)
     PluginLogFileManager::instance()->updateFileSize(path, file.size());
     return true;
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class LoggingPlugin : public PluginBase
@@ -56,8 +59,11 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void createButtons(QGridLayout *layout);
     void write(const QString &text, bool isProblem);
     void recordState();
@@ -71,21 +77,22 @@ private:
     QListWidget *m_files = nullptr;
     QPlainTextEdit *m_text = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence = [] { return tr("Type a note, then tap Note or Problem."); };
 };
 
 void LoggingPlugin::init()
 {
     PluginLogFileManager::instance()->initializeLogRoot(notes);
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
     m_note = new QLineEdit;
-    m_note->setPlaceholderText(tr("What happened at the cell"));
     m_files = new QListWidget;
     m_text = new QPlainTextEdit;
     m_text->setReadOnly(true);
-    m_notice = new QLabel(tr("Type a note, then tap Note or Problem."));
+    m_notice = new QLabel;
     m_notice->setWordWrap(true);
     layout->addWidget(m_note, 0, 0, 1, 5);
     createButtons(layout);
@@ -94,30 +101,54 @@ void LoggingPlugin::init()
     layout->addWidget(m_notice, 3, 0, 1, 5);
     connect(m_files, &QListWidget::currentItemChanged, this, &LoggingPlugin::show);
     refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
     zepletEvent()->subscribe(
         RCPowerStatusChange, [this](auto &) { recordState(); }, pluginName, m_page);
 }
 
+// The page hears of another language.
+bool LoggingPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void LoggingPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    m_note->setPlaceholderText(tr("What happened at the cell"));
+    say(m_sentence);
+}
+
+void LoggingPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
+}
+
 void LoggingPlugin::createButtons(QGridLayout *layout)
 {
-    const auto addButton = [=](int column, const QString &text, const auto &action) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [=](int column, const char *text, const auto &action) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         layout->addWidget(button, 1, column);
         connect(button, &QPushButton::clicked, this, action);
     };
-    addButton(0, tr("Note"), [this] { write(m_note->text().trimmed(), false); });
-    addButton(1, tr("Problem"), [this] { write(m_note->text().trimmed(), true); });
-    addButton(2, tr("Record state"), [this] { recordState(); });
-    addButton(3, tr("Remove file"), [this] { removeSelected(); });
-    addButton(4, tr("Tidy up"), [this] { tidyUp(); });
+    addButton(0, QT_TR_NOOP("Note"), [this] { write(m_note->text().trimmed(), false); });
+    addButton(1, QT_TR_NOOP("Problem"), [this] { write(m_note->text().trimmed(), true); });
+    addButton(2, QT_TR_NOOP("Record state"), [this] { recordState(); });
+    addButton(3, QT_TR_NOOP("Remove file"), [this] { removeSelected(); });
+    addButton(4, QT_TR_NOOP("Tidy up"), [this] { tidyUp(); });
 }
 
 // A problem also goes to the console, where whoever looks for it sees it in red.
 void LoggingPlugin::write(const QString &text, bool isProblem)
 {
     if (text.isEmpty())
-        return m_notice->setText(tr("Type a note first."));
+        return say([] { return tr("Type a note first."); });
     const QString robot = zepletInterface()->getRobotID();
     if (isProblem)
         QFLog(red, prefix('E'), QStringLiteral(" "), notes, extension).space()
@@ -128,9 +159,8 @@ void LoggingPlugin::write(const QString &text, bool isProblem)
     QLog(cyan, prefix('d'), QStringLiteral(" ")).space()
         << "logbook:" << text.size() << "characters";
     m_note->clear();
-    m_notice->setText(
-        tr("Written to %1.")
-            .arg(PluginLogFileManager::instance()->getProperLogFileName(notes, extension)));
+    const QString file = PluginLogFileManager::instance()->getProperLogFileName(notes, extension);
+    say([=] { return tr("Written to %1.").arg(file); });
     refresh();
 }
 
@@ -148,8 +178,10 @@ void LoggingPlugin::recordState()
         manager->recoverFromWriteFailure(states);
         written = append(manager->getProperLogFileName(states, extension), line);
     }
-    m_notice->setText(written ? tr("The robot's state is recorded.")
-                              : tr("The state can't be written: is the panel's disk full?"));
+    say([=] {
+        return written ? tr("The robot's state is recorded.")
+                       : tr("The state can't be written: is the panel's disk full?");
+    });
     refresh();
 }
 
@@ -186,18 +218,18 @@ void LoggingPlugin::removeSelected()
 {
     const QDir root = pluginLogRootDir(notes);
     if (!m_files->currentItem())
-        return m_notice->setText(tr("Select a file first."));
+        return say([] { return tr("Select a file first."); });
     const bool removed = QFile::remove(root.filePath(m_files->currentItem()->text()));
     PluginLogFileManager::instance()->rescanTotalLogSize(root.path());
     refresh();
-    m_notice->setText(removed ? tr("The file is removed.") : tr("The file can't be removed."));
+    say([=] { return removed ? tr("The file is removed.") : tr("The file can't be removed."); });
 }
 
 void LoggingPlugin::tidyUp()
 {
     PluginLogFileManager::instance()->cleanupOldFiles(notes, keptBytes, false);
     refresh();
-    m_notice->setText(tr("The oldest files are gone as far as all are above 50 MiB."));
+    say([] { return tr("The oldest files are gone as far as all are above 50 MiB."); });
 }
 
 // Runs when the panel loads the library: from here on it knows the plugin by name.

@@ -10,6 +10,7 @@
 #include <zeplet/zeplet.h>
 
 #include <QDir>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -39,6 +40,8 @@ QString indexOf(int place)
 {
     return normalizePointValueIndex(QStringLiteral("[%1]").arg(place));
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class PalletPlugin : public PluginBase
@@ -54,8 +57,11 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void createButtons(QGridLayout *layout);
     bool ensurePallet();
     bool makePlaces();
@@ -71,60 +77,86 @@ private:
     QSpinBox *m_count = nullptr;
     QSpinBox *m_distance = nullptr;
     QLabel *m_notice = nullptr;
-    QString m_outcome; ///< what an action has to say beside that it is done
+    Sentence m_sentence = [] {
+        return tr("Move the robot to the first place and teach it, then make the others.");
+    };
+    Sentence m_outcome; ///< what an action has to say beside that it is done
 };
 
 void PalletPlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
     m_count = new QSpinBox;
     m_count->setRange(1, 20);
     m_count->setValue(4);
-    m_count->setSuffix(tr(" places"));
     m_distance = new QSpinBox;
     m_distance->setRange(1, 500);
     m_distance->setValue(80);
-    m_distance->setSuffix(tr(" mm apart"));
     m_places = new QListWidget;
-    m_notice
-        = new QLabel(tr("Move the robot to the first place and teach it, then make the others."));
+    m_notice = new QLabel;
     m_notice->setWordWrap(true);
     layout->addWidget(m_count, 0, 0);
     layout->addWidget(m_distance, 0, 1);
     createButtons(layout);
     layout->addWidget(m_places, 2, 0, 1, 5);
     layout->addWidget(m_notice, 3, 0, 1, 5);
-    refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
     for (const char *key : {"tavik.project.point._list", "tavik.project.point.hot_update.operate"})
         connect(m(key), &ostrel::ModuleObject::changed, m_page, [this] { refresh(); });
 }
 
+// The page hears of another language.
+bool PalletPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void PalletPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    m_count->setSuffix(tr(" places"));
+    m_distance->setSuffix(tr(" mm apart"));
+    say(m_sentence);
+    refresh();
+}
+
+void PalletPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
+}
+
 void PalletPlugin::createButtons(QGridLayout *layout)
 {
-    const auto addButton = [=](int row, int column, const QString &text, const auto &action) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [=](int row, int column, const char *text, const auto &action) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         layout->addWidget(button, row, column);
         connect(button, &QPushButton::clicked, this, [=] {
-            m_outcome.clear();
+            m_outcome = nullptr;
             const bool done = action();
-            if (m_outcome.isEmpty())
-                m_outcome = done
-                    ? tr("%1: done.").arg(text)
-                    : tr("%1: not all of it reached the controller. The log says why.").arg(text);
-            m_notice->setText(m_outcome);
+            say(m_outcome ? m_outcome : [=] {
+                return (done ? tr("%1: done.")
+                             : tr("%1: not all of it reached the controller. The log says why."))
+                    .arg(tr(text));
+            });
             refresh();
         });
     };
-    addButton(0, 2, tr("Teach place"), [this] { return teach(); });
-    addButton(0, 3, tr("Make places"), [this] { return makePlaces(); });
-    addButton(0, 4, tr("Remove place"), [this] { return removePlace(); });
-    addButton(1, 0, tr("Raise all 10 mm"), [this] { return raise(10); });
-    addButton(1, 1, tr("Park position"), [this] { return makePark(); });
-    addButton(1, 2, tr("Back up"), [this] { return backUp(); });
+    addButton(0, 2, QT_TR_NOOP("Teach place"), [this] { return teach(); });
+    addButton(0, 3, QT_TR_NOOP("Make places"), [this] { return makePlaces(); });
+    addButton(0, 4, QT_TR_NOOP("Remove place"), [this] { return removePlace(); });
+    addButton(1, 0, QT_TR_NOOP("Raise all 10 mm"), [this] { return raise(10); });
+    addButton(1, 1, QT_TR_NOOP("Park position"), [this] { return makePark(); });
+    addButton(1, 2, QT_TR_NOOP("Back up"), [this] { return backUp(); });
 }
 
 bool PalletPlugin::ensurePallet()
@@ -141,7 +173,8 @@ bool PalletPlugin::teach()
     const QJsonValue position = robot->getCurrentPointData(tool, wobj);
     const QString index = indexOf(qMax(0, m_places->currentRow()));
     if (position.isNull()) {
-        m_outcome = tr("The controller says no position. Connect it, then try again.");
+        m_outcome
+            = [] { return tr("The controller says no position. Connect it, then try again."); };
         return false;
     }
     if (!ensurePallet() || !robot->ensurePointElement(palletPoint, index))
@@ -162,7 +195,7 @@ bool PalletPlugin::makePlaces()
     const QJsonObject record = robot->getPointObjDataByName(palletPoint);
     QJsonObject first = record["value"].toObject().value(indexOf(0)).toObject();
     if (!first.contains("pose")) {
-        m_outcome = tr("Teach the first place first.");
+        m_outcome = [] { return tr("Teach the first place first."); };
         return false;
     }
     ostrel::ModuleObject element;
@@ -184,7 +217,7 @@ bool PalletPlugin::raise(double millimetres)
     int place = -1;
     ostrel::ModuleObject *const record = palletRecord(&place);
     if (countPointValueElements(record) == 0) {
-        m_outcome = tr("Teach the first place first.");
+        m_outcome = [] { return tr("Teach the first place first."); };
         return false;
     }
     const QStringList indexes = collectPointValueIndexes(record);
@@ -203,7 +236,7 @@ bool PalletPlugin::removePlace()
 {
     const int place = m_places->currentRow();
     if (place < 0) {
-        m_outcome = tr("Select a place first.");
+        m_outcome = [] { return tr("Select a place first."); };
         return false;
     }
     return zepletInterface()->removePointElement(
@@ -229,8 +262,9 @@ bool PalletPlugin::backUp()
     GetPluginDataPath(directory, pluginName);
     const QString file = QDir(directory).absoluteFilePath("points.json");
     const bool written = QDir().mkpath(directory) && writeDataToJson(file, pointList(), "point");
-    m_outcome
-        = written ? tr("The points are in %1.").arg(file) : tr("%1 can't be written.").arg(file);
+    m_outcome = [=] {
+        return (written ? tr("The points are in %1.") : tr("%1 can't be written.")).arg(file);
+    };
     return written;
 }
 

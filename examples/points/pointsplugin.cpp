@@ -3,6 +3,7 @@
 #include <ostrel/moduleobject.h>
 #include <zeplet/zeplet.h>
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -36,6 +37,8 @@ QString valuesOf(const QString &name)
         texts.append(QString::number(value, 'f', 1));
     return texts.join(QStringLiteral("   "));
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class PointsPlugin : public PluginBase
@@ -51,51 +54,82 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void refresh();
     void teach(const QString &name, bool joint);
     void raise(const QString &name);
     void remove(const QString &name);
-    bool isSecondTap(const QString &sentence);
+    bool isSecondTap(const Sentence &question);
 
     QPointer<QWidget> m_page;
+    QLineEdit *m_name = nullptr;
     QListWidget *m_list = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence
+        = [] { return tr("Move the robot to a place, type a name, then tap Teach."); };
 };
 
 void PointsPlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    auto *name = new QLineEdit;
-    name->setPlaceholderText(tr("Name of a point"));
+    m_name = new QLineEdit;
     m_list = new QListWidget;
-    m_notice = new QLabel(tr("Move the robot to a place, type a name, then tap Teach."));
+    m_notice = new QLabel;
     m_notice->setTextFormat(Qt::PlainText); // a name is no markup
     m_notice->setWordWrap(true);
-    layout->addWidget(name, 0, 0);
+    layout->addWidget(m_name, 0, 0);
     layout->addWidget(m_list, 1, 0, 1, 5);
     layout->addWidget(m_notice, 2, 0, 1, 5);
-    const auto addButton = [=](int column, const QString &text, const auto &action) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [=](int column, const char *text, const auto &action) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         layout->addWidget(button, 0, column);
-        connect(button, &QPushButton::clicked, this, [=] { action(name->text().trimmed()); });
+        connect(button, &QPushButton::clicked, this, [=] { action(m_name->text().trimmed()); });
     };
-    addButton(1, tr("Teach pose"), [this](const QString &point) { teach(point, false); });
-    addButton(2, tr("Teach joints"), [this](const QString &point) { teach(point, true); });
-    addButton(3, tr("Raise 10 mm"), [this](const QString &point) { raise(point); });
-    addButton(4, tr("Remove"), [this](const QString &point) { remove(point); });
-    connect(m_list, &QListWidget::itemClicked, this,
-            [=](QListWidgetItem *item) { name->setText(item->data(Qt::UserRole).toString()); });
+    addButton(1, QT_TR_NOOP("Teach pose"), [this](const QString &point) { teach(point, false); });
+    addButton(2, QT_TR_NOOP("Teach joints"), [this](const QString &point) { teach(point, true); });
+    addButton(3, QT_TR_NOOP("Raise 10 mm"), [this](const QString &point) { raise(point); });
+    addButton(4, QT_TR_NOOP("Remove"), [this](const QString &point) { remove(point); });
+    connect(m_list, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        m_name->setText(item->data(Qt::UserRole).toString());
+    });
     refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
 
     // Whoever adds, edits or removes a point, or opens another project.
     for (const char *key : {"tavik.project.point._list", "tavik.project.point.hot_update.operate"})
         connect(m(key), &ostrel::ModuleObject::changed, m_page, [this] { refresh(); });
+}
+
+// The page hears of another language.
+bool PointsPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void PointsPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    m_name->setPlaceholderText(tr("Name of a point"));
+    say(m_sentence);
+}
+
+void PointsPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
 }
 
 void PointsPlugin::refresh()
@@ -114,50 +148,55 @@ void PointsPlugin::teach(const QString &name, bool joint)
     InterfaceManager *const robot = zepletInterface();
     const QString tool = robot->getCurTool(), wobj = robot->getCurWobj();
     if (name.isEmpty())
-        return m_notice->setText(tr("Type a name first."));
+        return say([] { return tr("Type a name first."); });
     if (robot->getCurrentPointData(tool, wobj).isNull())
-        return m_notice->setText(
-            tr("The controller says no position. Connect it, then try again."));
-    if (exists(name) && !isSecondTap(tr("Tap again: \"%1\" gets a new place.").arg(name)))
+        return say(
+            [] { return tr("The controller says no position. Connect it, then try again."); });
+    if (exists(name)
+        && !isSecondTap([=] { return tr("Tap again: \"%1\" gets a new place.").arg(name); }))
         return;
     const bool taught = robot->addCurrentPoint(name, joint, tool, wobj, QString());
-    m_notice->setText((taught
-                           ? tr("\"%1\" is taught.")
-                           : tr("\"%1\" is taught here, but not on the controller: see the log."))
-                          .arg(name));
+    say([=] {
+        return (taught ? tr("\"%1\" is taught.")
+                       : tr("\"%1\" is taught here, but not on the controller: see the log."))
+            .arg(name);
+    });
 }
 
 void PointsPlugin::raise(const QString &name)
 {
     QVector<double> pose = zepletInterface()->getPointDataByName(name, QString());
     if (pose.isEmpty())
-        return m_notice->setText(tr("\"%1\" is no point with a pose. Select one.").arg(name));
+        return say([=] { return tr("\"%1\" is no point with a pose. Select one.").arg(name); });
     pose[2] += step;
     const bool raised = zepletInterface()->setPointCartData(name, pose, QString());
-    m_notice->setText((raised
-                           ? tr("\"%1\" is raised.")
-                           : tr("\"%1\" is raised here, but not on the controller: see the log."))
-                          .arg(name));
+    say([=] {
+        return (raised ? tr("\"%1\" is raised.")
+                       : tr("\"%1\" is raised here, but not on the controller: see the log."))
+            .arg(name);
+    });
 }
 
 void PointsPlugin::remove(const QString &name)
 {
     if (!exists(name))
-        return m_notice->setText(tr("There is no \"%1\". Select a point.").arg(name));
-    if (!isSecondTap(tr("Tap again: \"%1\" goes for good.").arg(name)))
+        return say([=] { return tr("There is no \"%1\". Select a point.").arg(name); });
+    if (!isSecondTap([=] { return tr("Tap again: \"%1\" goes for good.").arg(name); }))
         return;
-    QString outcome = tr("\"%1\" is removed.");
-    if (!zepletInterface()->removePoint(name))
-        outcome = exists(name) ? tr("The controller needs \"%1\". Stop its program first.")
-                               : tr("\"%1\" is removed here, but the file is not: see the log.");
-    m_notice->setText(outcome.arg(name));
+    const bool removed = zepletInterface()->removePoint(name), stays = exists(name);
+    say([=] {
+        return (removed     ? tr("\"%1\" is removed.")
+                    : stays ? tr("The controller needs \"%1\". Stop its program first.")
+                            : tr("\"%1\" is removed here, but the file is not: see the log."))
+            .arg(name);
+    });
 }
 
 // A question stays on the page until anything else is said.
-bool PointsPlugin::isSecondTap(const QString &sentence)
+bool PointsPlugin::isSecondTap(const Sentence &question)
 {
-    const bool asked = m_notice->text() == sentence;
-    m_notice->setText(sentence);
+    const bool asked = m_notice->text() == question();
+    say(question);
     return asked;
 }
 

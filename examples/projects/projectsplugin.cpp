@@ -4,6 +4,7 @@
 #include <zeplet/zeplet.h>
 
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,7 +17,8 @@ using namespace zeplet;
 namespace
 {
 const QString pluginName = QStringLiteral("projects");
-}
+using Sentence = std::function<QString()>; // to be said again in another language
+} // namespace
 
 class ProjectsPlugin : public PluginBase
 {
@@ -31,19 +33,25 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void refresh();
+    void markOpen();
     void create();
     void open();
     void remove();
-    void say(int code, const QString &done, const QString &wrongState);
+    void tell(int code, const Sentence &done, const Sentence &wrongState);
     QString selected() const;
 
     QPointer<QWidget> m_page;
+    QLabel *m_title = nullptr;
     QLineEdit *m_name = nullptr;
     QListWidget *m_list = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence = [] { return tr("Type a name, then tap Create."); };
     QString m_toRemove; ///< what a second tap on "Remove" removes, soon after the first
     QDeadlineTimer m_confirmUntil;
 };
@@ -51,38 +59,64 @@ private:
 void ProjectsPlugin::init()
 {
     m_page = new QWidget;
-    auto *title = new QLabel(tr("My projects"));
-    title->setProperty("role", "heading");
+    m_page->installEventFilter(this);
+    m_title = new QLabel;
+    m_title->setProperty("role", "heading");
     m_name = new QLineEdit;
-    m_name->setPlaceholderText(tr("Name of a new project"));
     m_list = new QListWidget;
-    m_notice = new QLabel(tr("Type a name, then tap Create."));
+    m_notice = new QLabel;
     m_notice->setTextFormat(Qt::PlainText); // a name is no markup
 
     auto *line = new QHBoxLayout;
     line->addWidget(m_name, 1);
-    const auto addButton = [&](const QString &text, void (ProjectsPlugin::*action)()) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [&](const char *text, void (ProjectsPlugin::*action)()) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         line->addWidget(button);
         connect(button, &QPushButton::clicked, this, action);
     };
-    addButton(tr("Create"), &ProjectsPlugin::create);
-    addButton(tr("Open"), &ProjectsPlugin::open);
-    addButton(tr("Remove"), &ProjectsPlugin::remove);
+    addButton(QT_TR_NOOP("Create"), &ProjectsPlugin::create);
+    addButton(QT_TR_NOOP("Open"), &ProjectsPlugin::open);
+    addButton(QT_TR_NOOP("Remove"), &ProjectsPlugin::remove);
     auto *layout = new QVBoxLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
-    layout->addWidget(title);
+    layout->addWidget(m_title);
     layout->addLayout(line);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_notice);
     refresh();
+    translate();
     CreateCenterWidget(pluginName, m_page);
 
     // Whoever switches, makes or removes a project; and another robot has other projects.
     for (const char *key :
          {"tavik.project.cur_project", "tavik.project.refresh_project", "brisa.r.id"})
         connect(m(key), &ostrel::ModuleObject::changed, m_page, [this] { refresh(); });
+}
+
+// The page hears of another language.
+bool ProjectsPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void ProjectsPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    m_title->setText(tr("My projects"));
+    m_name->setPlaceholderText(tr("Name of a new project"));
+    say(m_sentence);
+    markOpen();
+}
+
+void ProjectsPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
 }
 
 void ProjectsPlugin::refresh()
@@ -92,26 +126,40 @@ void ProjectsPlugin::refresh()
     names.sort(Qt::CaseInsensitive);
     m_list->clear();
     for (const QString &name : qAsConst(names)) {
-        auto *item = new QListWidgetItem(name == open ? tr("%1   (open)").arg(name) : name, m_list);
+        auto *item = new QListWidgetItem(m_list);
         item->setData(Qt::UserRole, name);
         item->setSizeHint({0, 53}); // a finger's width
         item->setSelected(name == open);
+    }
+    markOpen();
+}
+
+void ProjectsPlugin::markOpen()
+{
+    const QString open = zepletInterface()->getCurProject().section('/', -1);
+    for (int row = 0; row < m_list->count(); ++row) {
+        const QString name = m_list->item(row)->data(Qt::UserRole).toString();
+        m_list->item(row)->setText(name == open ? tr("%1   (open)").arg(name) : name);
     }
 }
 
 void ProjectsPlugin::create()
 {
     const QString name = m_name->text().trimmed();
-    say(zepletInterface()->createProject(name, tr("Made by an example"), true),
-        tr("\"%1\" is made and open.").arg(name),
-        tr("There is a \"%1\" already. Choose another name, or open it.").arg(name));
+    tell(
+        zepletInterface()->createProject(name, tr("Made by an example"), true),
+        [=] { return tr("\"%1\" is made and open.").arg(name); },
+        [=] {
+            return tr("There is a \"%1\" already. Choose another name, or open it.").arg(name);
+        });
 }
 
 void ProjectsPlugin::open()
 {
     const QString name = selected();
-    say(zepletInterface()->changeProject(name), tr("\"%1\" is open.").arg(name),
-        tr("\"%1\" is no longer there.").arg(name));
+    tell(
+        zepletInterface()->changeProject(name), [=] { return tr("\"%1\" is open.").arg(name); },
+        [=] { return tr("\"%1\" is no longer there.").arg(name); });
 }
 
 void ProjectsPlugin::remove()
@@ -120,20 +168,23 @@ void ProjectsPlugin::remove()
     if (!name.isEmpty() && (name != m_toRemove || m_confirmUntil.hasExpired())) {
         m_toRemove = name;
         m_confirmUntil.setRemainingTime(5000);
-        return m_notice->setText(
-            tr("Tap Remove again within 5 s: \"%1\" goes with all its points.").arg(name));
+        return say([=] {
+            return tr("Tap Remove again within 5 s: \"%1\" goes with all its points.").arg(name);
+        });
     }
     m_toRemove.clear();
-    say(zepletInterface()->removeProject(name), tr("\"%1\" is removed.").arg(name),
-        tr("\"%1\" is no longer there.").arg(name));
+    tell(
+        zepletInterface()->removeProject(name), [=] { return tr("\"%1\" is removed.").arg(name); },
+        [=] { return tr("\"%1\" is no longer there.").arg(name); });
 }
 
 // Each result code is a sentence that says what to do next.
-void ProjectsPlugin::say(int code, const QString &done, const QString &wrongState)
+void ProjectsPlugin::tell(int code, const Sentence &done, const Sentence &wrongState)
 {
-    const QString sentences[] = {done, tr("Type or select a name; one without \"/\"."), wrongState,
-                                 tr("The disk refused. Make room, or choose a shorter name.")};
-    m_notice->setText(sentences[qBound(0, -code, 3)]);
+    const Sentence sentences[]
+        = {done, [] { return tr("Type or select a name; one without \"/\"."); }, wrongState,
+           [] { return tr("The disk refused. Make room, or choose a shorter name."); }};
+    say(sentences[qBound(0, -code, 3)]);
 }
 
 QString ProjectsPlugin::selected() const

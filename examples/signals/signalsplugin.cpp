@@ -4,6 +4,7 @@
 #include <zeplet/zeplet.h>
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -27,10 +28,9 @@ QString valueText(const QVariant &value)
     return value.toBool() ? QStringLiteral("●  1") : QStringLiteral("○  0");
 }
 
-QTableWidget *makeTable(const QString &name, const QString &value)
+QTableWidget *makeTable()
 {
     auto *table = new QTableWidget(0, 2);
-    table->setHorizontalHeaderLabels({name, value});
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->horizontalHeader()->setHighlightSections(false);
@@ -49,6 +49,8 @@ void addRow(QTableWidget *table, const QString &name, const QString &value)
     table->setItem(row, 0, new QTableWidgetItem(name));
     table->setItem(row, 1, new QTableWidgetItem(value));
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class SignalsPage : public QWidget
@@ -61,8 +63,11 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void translate();
+    void say(const Sentence &sentence);
     void refresh();
     void showRegisters();
     void follow(const QVariantMap &values);
@@ -70,25 +75,25 @@ private:
     void toggle();
 
     QComboBox *m_type = new QComboBox;
-    QTableWidget *m_signals = makeTable(tr("Signal"), tr("Value"));
-    QTableWidget *m_registers = makeTable(tr("Register"), tr("Value"));
+    QTableWidget *m_signals = makeTable();
+    QTableWidget *m_registers = makeTable();
+    QLabel *m_title = new QLabel;
+    QPushButton *m_set = new QPushButton;
+    QPushButton *m_reset = new QPushButton;
+    QPushButton *m_toggle = new QPushButton;
+    QPushButton *m_read = new QPushButton;
     QLabel *m_notice = new QLabel;
+    Sentence m_sentence = [] { return QString(); };
 };
 
 SignalsPage::SignalsPage()
 {
-    auto *title = new QLabel(tr("My signals"));
-    title->setProperty("role", "heading");
-    m_type->addItems({tr("Digital inputs"), tr("Digital outputs"), tr("Group inputs"),
-                      tr("Group outputs"), tr("Analogue inputs"), tr("Analogue outputs")});
+    m_title->setProperty("role", "heading");
     m_registers->setSelectionMode(QTableWidget::NoSelection);
-    auto *set = new QPushButton(tr("Set to 1"));
-    auto *reset = new QPushButton(tr("Set to 0"));
-    auto *toggle = new QPushButton(tr("Toggle"));
-    auto *read = new QPushButton(tr("Read again"));
     auto *header = new QHBoxLayout;
-    header->addWidget(title, 1);
-    for (QWidget *widget : std::initializer_list<QWidget *> {m_type, set, reset, toggle, read})
+    header->addWidget(m_title, 1);
+    for (QWidget *widget :
+         std::initializer_list<QWidget *> {m_type, m_set, m_reset, m_toggle, m_read})
         header->addWidget(widget);
     auto *tables = new QHBoxLayout;
     tables->addWidget(m_signals, 1);
@@ -99,12 +104,13 @@ SignalsPage::SignalsPage()
     layout->addLayout(header);
     layout->addLayout(tables, 1);
     layout->addWidget(m_notice);
+    translate();
 
     connect(m_type, QOverload<int>::of(&QComboBox::activated), this, &SignalsPage::refresh);
-    connect(read, &QPushButton::clicked, this, &SignalsPage::refresh);
-    connect(set, &QPushButton::clicked, this, [this] { write(true); });
-    connect(reset, &QPushButton::clicked, this, [this] { write(false); });
-    connect(toggle, &QPushButton::clicked, this, &SignalsPage::toggle);
+    connect(m_read, &QPushButton::clicked, this, &SignalsPage::refresh);
+    connect(m_set, &QPushButton::clicked, this, [this] { write(true); });
+    connect(m_reset, &QPushButton::clicked, this, [this] { write(false); });
+    connect(m_toggle, &QPushButton::clicked, this, &SignalsPage::toggle);
     // The catalogue comes with the connection; later, since the panel is still busy with it now.
     connect(
         m("tavik.robot.io.signal_detail"), &ostrel::ModuleObject::changed, this,
@@ -137,6 +143,36 @@ void SignalsPage::showEvent(QShowEvent *event)
     refresh();
 }
 
+void SignalsPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+}
+
+void SignalsPage::translate()
+{
+    m_title->setText(tr("My signals"));
+    m_set->setText(tr("Set to 1"));
+    m_reset->setText(tr("Set to 0"));
+    m_toggle->setText(tr("Toggle"));
+    m_read->setText(tr("Read again"));
+    const int type = qMax(0, m_type->currentIndex());
+    m_type->clear();
+    m_type->addItems({tr("Digital inputs"), tr("Digital outputs"), tr("Group inputs"),
+                      tr("Group outputs"), tr("Analogue inputs"), tr("Analogue outputs")});
+    m_type->setCurrentIndex(type);
+    m_signals->setHorizontalHeaderLabels({tr("Signal"), tr("Value")});
+    m_registers->setHorizontalHeaderLabels({tr("Register"), tr("Value")});
+    say(m_sentence);
+}
+
+void SignalsPage::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
+}
+
 void SignalsPage::refresh()
 {
     const QStringList names = zepletInterface()->getIOByType(m_type->currentIndex() + 1);
@@ -145,10 +181,12 @@ void SignalsPage::refresh()
     for (const QString &name : names)
         addRow(m_signals, name, valueText(values.value(name)));
     showRegisters();
-    m_notice->setText(values.isEmpty()
-                          ? tr("No values came. Connect the controller, then tap Read again.")
-                          : names.isEmpty() ? tr("The robot has no signals of this kind.")
-                                            : tr("Select a digital signal to set it."));
+    const bool answered = !values.isEmpty(), found = !names.isEmpty();
+    say([=] {
+        return !answered ? tr("No values came. Connect the controller, then tap Read again.")
+            : !found     ? tr("The robot has no signals of this kind.")
+                         : tr("Select a digital signal to set it.");
+    });
 }
 
 // In the controller's order, which the hash does not keep.
@@ -174,14 +212,14 @@ void SignalsPage::follow(const QVariantMap &values)
 void SignalsPage::write(bool value)
 {
     if (!zepletInterface()->getRobotConnected())
-        return m_notice->setText(tr("Connect the controller first, then set the signal again."));
+        return say([] { return tr("Connect the controller first, then set the signal again."); });
     const int type = m_type->currentIndex() + 1;
     const int row = m_signals->currentRow();
     if (row < 0 || type > 2)
-        return m_notice->setText(tr("Select a digital input or output first."));
+        return say([] { return tr("Select a digital input or output first."); });
     // Always 0: why a signal is refused, the panel tells the operator in its message line.
     zepletInterface()->setIOValue(m_signals->item(row, 0)->text(), type, value);
-    m_notice->setText(tr("Sent. If the value stays, the line below says why."));
+    say([] { return tr("Sent. If the value stays, the line below says why."); });
 }
 
 // The value of this moment, not the one in the table, which may be behind.
@@ -191,9 +229,9 @@ void SignalsPage::toggle()
     const int row = m_signals->currentRow();
     const QString name = row < 0 ? QString() : m_signals->item(row, 0)->text();
     if (!robot->getIOByType(digitalOutput).contains(name))
-        return m_notice->setText(tr("Select a digital output first."));
+        return say([] { return tr("Select a digital output first."); });
     robot->setIOValue(name, digitalOutput, !robot->getIOValue(name));
-    m_notice->setText(tr("Sent. If the value stays, the line below says why."));
+    say([] { return tr("Sent. If the value stays, the line below says why."); });
 }
 
 class SignalsPlugin : public PluginBase

@@ -15,7 +15,8 @@ using namespace zeplet;
 namespace
 {
 const QString pluginName = QStringLiteral("status");
-}
+using Sentence = std::function<QString()>; // to be said again in another language
+} // namespace
 
 class StatusPlugin : public PluginBase
 {
@@ -34,6 +35,7 @@ public:
 
 private:
     void translate();
+    void say(const Sentence &sentence);
     void createButtons();
     QPushButton *addText(int row, int column, const char *text);
     void addButton(int row, int column, const char *text, const std::function<bool()> &action);
@@ -45,8 +47,7 @@ private:
     QGridLayout *m_buttons = nullptr;
     QLabel *m_title = nullptr;
     QLabel *m_notice = nullptr;
-    const char *m_hint = QT_TR_NOOP("Changes appear here as the controller reports them.");
-    QVector<QPair<QPushButton *, const char *>> m_texts; ///< what is on the buttons, in English
+    Sentence m_sentence = [] { return tr("Changes appear here as the controller reports them."); };
 };
 
 void StatusPlugin::init()
@@ -81,7 +82,7 @@ void StatusPlugin::init()
             type, [this](auto &) { refresh(); }, pluginName, m_page);
     const auto tell = [this](ZepletEventType type, const char *text) {
         zepletEvent()->subscribe(
-            type, [=](auto &) { m_notice->setText(tr(m_hint = text)); }, pluginName, m_page);
+            type, [=](auto &) { say([=] { return tr(text); }); }, pluginName, m_page);
     };
     tell(RCBeforeRunStart,
          QT_TR_NOOP("The operator wants to start. If the cell is clear, tap Start."));
@@ -100,21 +101,25 @@ bool StatusPlugin::eventFilter(QObject *watched, QEvent *event)
 void StatusPlugin::translate()
 {
     m_title->setText(tr("Robot status"));
-    for (const auto &[button, text] : qAsConst(m_texts))
-        button->setText(tr(text));
-    if (m_hint)
-        m_notice->setText(tr(m_hint));
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    say(m_sentence);
     refresh();
+}
+
+void StatusPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
 }
 
 // No start and no stop may wait for the answer of a plugin that is gone.
 void StatusPlugin::detach()
 {
     if (m_page) {
-        for (QPushButton *filter : m_page->findChildren<QPushButton *>("filter"))
-            filter->setChecked(false);
+        for (QPushButton *button : m_page->findChildren<QPushButton *>())
+            button->setChecked(false); // filters alone can be checked
     }
-    m_texts.clear();
     delete m_page;
 }
 
@@ -138,7 +143,7 @@ void StatusPlugin::createButtons()
 QPushButton *StatusPlugin::addText(int row, int column, const char *text)
 {
     auto *button = new QPushButton;
-    m_texts.append({button, text});
+    button->setObjectName(text);
     m_buttons->addWidget(button, row, column);
     return button;
 }
@@ -146,7 +151,6 @@ QPushButton *StatusPlugin::addText(int row, int column, const char *text)
 void StatusPlugin::addFilter(int column, const char *text, bool (InterfaceManager::*filter)(bool))
 {
     QPushButton *const button = addText(1, column, text);
-    button->setObjectName("filter");
     button->setCheckable(true);
     connect(button, &QPushButton::toggled, this,
             [=](bool on) { (zepletInterface()->*filter)(on); });
@@ -157,11 +161,12 @@ void StatusPlugin::addButton(int row, int column, const char *text,
                              const std::function<bool()> &action)
 {
     connect(addText(row, column, text), &QPushButton::clicked, this, [=] {
-        const QString sentence = action()
-            ? tr("%1: sent. The state above follows when the robot has done it.")
-            : tr("%1: not sent. Connect the controller, then try again.");
-        m_notice->setText(sentence.arg(tr(text)));
-        m_hint = nullptr; // what was said stays as it was said
+        const bool sent = action();
+        say([=] {
+            return (sent ? tr("%1: sent. The state above follows when the robot has done it.")
+                         : tr("%1: not sent. Connect the controller, then try again."))
+                .arg(tr(text));
+        });
     });
 }
 

@@ -3,6 +3,7 @@
 #include <zeplet/zeplet.h>
 
 #include <QDir>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -31,6 +32,8 @@ QString localDirectory()
     GetPluginDataPath(path, pluginName);
     return QDir(path).absoluteFilePath(QStringLiteral("notes/")); // the slash: what is in it
 }
+
+using Sentence = std::function<QString()>; // to be said again in another language
 } // namespace
 
 class SyncPlugin : public PluginBase
@@ -46,59 +49,89 @@ public:
 
     void init() override;
     void detach() override { delete m_page; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool tell(bool done, const QString &success);
+    void translate();
+    void say(const Sentence &sentence);
+    bool tell(bool done, const char *success);
     bool save();
     void read();
 
     QPointer<QWidget> m_page;
     QPlainTextEdit *m_note = nullptr;
     QLabel *m_notice = nullptr;
+    Sentence m_sentence = [] { return tr("Send everything once, then the note alone."); };
 };
 
 void SyncPlugin::init()
 {
     m_page = new QWidget;
+    m_page->installEventFilter(this);
     auto *layout = new QGridLayout(m_page);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(16);
     m_note = new QPlainTextEdit;
-    m_note->setPlaceholderText(tr("A note for whoever works on this project next"));
-    m_notice = new QLabel(tr("Send everything once, then the note alone."));
+    m_notice = new QLabel;
     m_notice->setWordWrap(true);
     layout->addWidget(m_note, 1, 0, 1, 3);
     layout->addWidget(m_notice, 2, 0, 1, 3);
-    const auto addButton = [=](int column, const QString &text, const auto &action) {
-        auto *button = new QPushButton(text);
+    const auto addButton = [=](int column, const char *text, const auto &action) {
+        auto *button = new QPushButton;
+        button->setObjectName(text);
         layout->addWidget(button, 0, column);
         connect(button, &QPushButton::clicked, this, action);
     };
-    addButton(0, tr("Send all"), [this] {
+    addButton(0, QT_TR_NOOP("Send all"), [this] {
         if (save())
             tell(SyncTool::instance()->pushFile(localDirectory(), remoteDirectory(), true),
-                 tr("The controller has all notes of this panel, and no others."));
+                 QT_TR_NOOP("The controller has all notes of this panel, and no others."));
     });
-    addButton(1, tr("Send note"), [this] {
+    addButton(1, QT_TR_NOOP("Send note"), [this] {
         const QString remoteFile = remoteDirectory() + QLatin1Char('/') + fileName;
         if (save())
             tell(SyncTool::instance()->pushOneFile(localDirectory() + fileName, remoteFile, true),
-                 tr("The controller has this note."));
+                 QT_TR_NOOP("The controller has this note."));
     });
-    addButton(2, tr("Fetch all"), [this] {
+    addButton(2, QT_TR_NOOP("Fetch all"), [this] {
         if (tell(SyncTool::instance()->pullFile(remoteDirectory(), localDirectory(), true, true),
-                 tr("This panel has all notes of the controller, and no others.")))
+                 QT_TR_NOOP("This panel has all notes of the controller, and no others.")))
             read();
     });
     read();
+    translate();
     CreateCenterWidget(pluginName, m_page);
 }
 
-bool SyncPlugin::tell(bool done, const QString &success)
+// The page hears of another language.
+bool SyncPlugin::eventFilter(QObject *watched, QEvent *event)
 {
-    m_notice->setText(done ? success
-                           : tr("Not everything was copied. Is the controller on, and does it have "
-                                "this project? The log says what rsync found."));
+    if (event->type() == QEvent::LanguageChange)
+        translate();
+    return PluginBase::eventFilter(watched, event);
+}
+
+void SyncPlugin::translate()
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>())
+        button->setText(tr(qUtf8Printable(button->objectName()))); // its name is in English
+    m_note->setPlaceholderText(tr("A note for whoever works on this project next"));
+    say(m_sentence);
+}
+
+void SyncPlugin::say(const Sentence &sentence)
+{
+    m_sentence = sentence;
+    m_notice->setText(m_sentence());
+}
+
+bool SyncPlugin::tell(bool done, const char *success)
+{
+    say([=] {
+        return done ? tr(success)
+                    : tr("Not everything was copied. Is the controller on, and does it have "
+                         "this project? The log says what rsync found.");
+    });
     return done;
 }
 
@@ -108,7 +141,9 @@ bool SyncPlugin::save()
     if (QDir().mkpath(localDirectory()) && file.open(QIODevice::WriteOnly)
         && file.write(m_note->toPlainText().toUtf8()) >= 0 && file.commit())
         return true;
-    m_notice->setText(tr("The note can't be saved on the panel: %1").arg(file.errorString()));
+    say([problem = file.errorString()] {
+        return tr("The note can't be saved on the panel: %1").arg(problem);
+    });
     return false;
 }
 

@@ -2,15 +2,19 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTableView>
 #include <QTextDocumentFragment>
+#include <QXmlStreamReader>
 #include <brisa/elidedlabel.h>
 #include <brisa/logbanner.h>
 #include <brisa/thememanager.h>
@@ -126,6 +130,14 @@ void addTable(const QTableView *table, Texts *texts)
     }
 }
 
+// Lists are scrolled sideways.
+void addList(const QListView *list, Texts *texts)
+{
+    const QAbstractItemModel *const model = list->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        texts->append({list, model->index(row, 0).data().toString(), 0, 0});
+}
+
 void add(const QWidget *widget, Texts *texts)
 {
     if (const auto *const label = qobject_cast<const QLabel *>(widget))
@@ -140,6 +152,12 @@ void add(const QWidget *widget, Texts *texts)
         addTabs(bar, texts);
     else if (const auto *const table = qobject_cast<const QTableView *>(widget))
         addTable(table, texts);
+    else if (const auto *const list = qobject_cast<const QListView *>(widget))
+        addList(list, texts);
+    else if (const auto *const number = qobject_cast<const QSpinBox *>(widget))
+        texts->append({number, number->suffix().trimmed(), 0, 0});
+    else if (const auto *const note = qobject_cast<const QPlainTextEdit *>(widget))
+        texts->append({note, note->placeholderText(), 0, 0});
     else if (const auto *const edit = qobject_cast<const QLineEdit *>(widget))
         texts->append({edit, edit->placeholderText(),
                        widthOf(edit->placeholderText(), edit->font()), edit->width() - 24});
@@ -158,4 +176,31 @@ QVector<ShownText> shownTexts(const QWidget *window)
     }
     texts.append({window, window->windowTitle(), 0, 0});
     return texts;
+}
+
+QRegularExpression englishOf(const QStringList &catalogues, const QString &language)
+{
+    QStringList sources;
+    QStringList translations;
+    for (const QString &catalogue : catalogues) {
+        QFile file(QStringLiteral(ZEPLET_TREE "/%1_%2.ts").arg(catalogue, language));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+            if (xml.isStartElement() && xml.name() == "source")
+                sources += xml.readElementText().trimmed();
+            else if (xml.isStartElement() && xml.name() == "translation")
+                translations += xml.readElementText().trimmed();
+        }
+    }
+    static const QRegularExpression placeholder(QStringLiteral("%\\d"));
+    static const QRegularExpression word(QStringLiteral("[a-z]{3}"));
+    QStringList patterns;
+    for (const QString &source : qAsConst(sources)) {
+        if (translations.contains(source) || !QString(source).remove(placeholder).contains(word))
+            continue;
+        patterns += QRegularExpression::escape(source).replace(
+            QRegularExpression(QStringLiteral("\\\\%\\d")), QStringLiteral(".+"));
+    }
+    return QRegularExpression("\\A(" + patterns.join('|') + ")\\z");
 }

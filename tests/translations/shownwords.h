@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 #include <QWidget>
 
@@ -15,3 +17,6 @@ struct ShownText {
 
 /** All texts that can be seen in a window: labels, buttons, headers, cells, tabs, choices, keys. */
 QVector<ShownText> shownTexts(const QWidget *window);
+
+/** What is English in the catalogues of a language, with anything for its placeholders. */
+QRegularExpression englishOf(const QStringList &catalogues, const QString &language);

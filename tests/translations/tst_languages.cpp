@@ -8,7 +8,6 @@
 #include <QLibrary>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QXmlStreamReader>
 #include <algorithm>
 #include <brisa/languagemanager.h>
 #include <brisa/physicalbutton.h>
@@ -41,34 +40,6 @@ simulator::Scenario cell()
     return scenario;
 }
 
-/** What is English in the catalogues of a language, with anything for its placeholders. */
-QRegularExpression englishOf(const QString &language)
-{
-    QStringList sources;
-    QStringList translations;
-    for (const char *catalogue : {"translations/zeplet", "examples/status/status"}) {
-        QFile file(QStringLiteral(ZEPLET_TREE "/%1_%2.ts").arg(catalogue, language));
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
-            if (xml.isStartElement() && xml.name() == "source")
-                sources += xml.readElementText().trimmed();
-            else if (xml.isStartElement() && xml.name() == "translation")
-                translations += xml.readElementText().trimmed();
-        }
-    }
-    static const QRegularExpression placeholder(QStringLiteral("%\\d"));
-    static const QRegularExpression word(QStringLiteral("[a-z]{3}"));
-    QStringList patterns;
-    for (const QString &source : qAsConst(sources)) {
-        if (translations.contains(source) || !QString(source).remove(placeholder).contains(word))
-            continue;
-        patterns += QRegularExpression::escape(source).replace(
-            QRegularExpression(QStringLiteral("\\\\%\\d")), QStringLiteral(".+"));
-    }
-    return QRegularExpression("\\A(" + patterns.join('|') + ")\\z");
-}
-
 } // namespace
 
 /** The panel in all its languages: each page changes while it is shown, and nothing is clipped.
@@ -81,7 +52,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         for (const QString &language : foreign) {
-            m_english[language] = englishOf(language);
+            m_english[language]
+                = englishOf({"translations/zeplet", "examples/status/status"}, language);
             QVERIFY2(m_english[language].isValid()
                          && m_english[language].match("Motors").hasMatch(),
                      qPrintable(m_english[language].errorString()));

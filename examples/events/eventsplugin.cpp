@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -248,7 +249,7 @@ void EventsPlugin::add(const ZepletEvent &event)
                    m_last.timestamp.toLocalTime().toString("hh:mm:ss"), properties.join(", "));
     auto *item = new QListWidgetItem(text);
     item->setSizeHint({0, 53}); // a finger's width
-    item->setToolTip(m_last.toString());
+    item->setToolTip(Qt::convertFromPlainText(m_last.toString())); // data is no markup
     m_journal->insertItem(0, item);
 }
 

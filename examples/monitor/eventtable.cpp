@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QJsonDocument>
 #include <QPainter>
+#include <QTextDocument>
 
 namespace
 {
@@ -65,7 +66,7 @@ void EventTable::add(const zeplet::ZepletEvent &event)
     insertRow(0);
     for (int column = 0; column < texts.size(); ++column) {
         auto *item = new QTableWidgetItem(texts.at(column));
-        item->setToolTip(texts.at(column));
+        item->setToolTip(Qt::convertFromPlainText(texts.at(column))); // data is no markup
         setItem(0, column, item);
     }
     setRowCount(qMin(rowCount(), maximumRows));

@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextDocument>
 
 using namespace zeplet;
 
@@ -245,7 +246,7 @@ void RulesPlugin::refresh()
             QStringLiteral("%1: %2, %3, %4").arg(rule->pluginName, nameOf(*rule), state, last),
             m_list);
         item->setData(Qt::UserRole, each);
-        item->setToolTip(rule->toString());
+        item->setToolTip(Qt::convertFromPlainText(rule->toString())); // a name is no markup
         item->setSizeHint({0, 53}); // a finger's width
         if (each == id)
             m_list->setCurrentItem(item);

@@ -1,5 +1,6 @@
 #include "comparepicture.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -24,6 +25,7 @@ const QString home = QDir::currentPath();
 /** Null where it never stands still. */
 QImage stillPicture(QWidget *widget)
 {
+    QApplication::setCursorFlashTime(0); // an entry's cursor is shown, whenever that is
     QImage last;
     int same = 0;
     const bool isStill = QTest::qWaitFor(

@@ -26,7 +26,8 @@ ZEPLET_TEST_EXPORT QString comparePictureIn(const QString &directory, QWidget *w
  *
  * With ZEPLET_TEST_PICTURES=write in the environment the picture is written where there is none.
  * On a difference FILE.now.png and FILE.difference.png (what differs in red) are left in the
- * directory in which the test was started.
+ * directory in which the test was started. The cursor in an entry blinks no longer from the first
+ * comparison on: pictures show it.
  */
 inline QString comparePicture(QWidget *widget, const QString &file, double tolerance = 0)
 {

@@ -8,6 +8,7 @@
 #include "widgetchecks.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
@@ -27,6 +28,7 @@ public:
         : simulator(scenario)
     {
         ignoreOffscreenNoise();
+        QApplication::setCursorFlashTime(0); // an entry stands still in a picture that takes long
         const QJsonObject settings {{"server.ip", "127.0.0.1"},
                                     {"server.port", QString::number(simulator.controllerPort())},
                                     {"server.hub_port", QString::number(simulator.hubPort())},

@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -72,6 +74,19 @@ private Q_SLOTS:
         Square large(0, 30);
         QVERIFY(compare(&large, 1).startsWith("deep/square.png is 20 x 20, the widget is 30 x 30"));
         QVERIFY(compare(nullptr).startsWith("There is no widget"));
+    }
+
+    void anEntryStandsStill()
+    {
+        QApplication::setCursorFlashTime(20); // ms
+        QLineEdit entry;
+        entry.show();
+        entry.setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&entry));
+        qputenv("ZEPLET_TEST_PICTURES", "write");
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(comparePictureIn(m_directory.path(), &entry, "entry.png", 0), QString());
+        qunsetenv("ZEPLET_TEST_PICTURES");
     }
 
 private:

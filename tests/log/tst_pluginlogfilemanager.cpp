@@ -134,6 +134,8 @@ private slots:
         const QString after = logfiles::today();
         QVERIFY(before != after);
         QTRY_COMPARE(name(), m_manager.buildFileName(base, after, 0, "log"));
+        setZone(zone);
+        QTRY_VERIFY(name().contains(logfiles::today())); // the next test's date is this one
     }
 
     void directoryIsMadeAgain()

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
+#include <functional>
 
 #include <algorithm>
 

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTextDocument>
+#include <functional>
 
 #include <utility>
 

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
+#include <functional>
 
 using namespace zeplet;
 

@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
+#include <functional>
 
 using namespace zeplet;
 

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
+#include <functional>
 
 using namespace zeplet;
 

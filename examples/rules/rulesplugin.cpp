@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTextDocument>
+#include <functional>
 
 using namespace zeplet;
 

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSaveFile>
+#include <functional>
 
 using namespace zeplet;
 

@@ -41,6 +41,13 @@ public:
         session = std::make_unique<panel::PanelSession>(options);
     }
 
+    /** Without the privileges that rsync's own port needs. */
+    void reachDisk()
+    {
+        qputenv("RSYNC_CONNECT_PROG",
+                "socat - TCP:127.0.0.1:" + QByteArray::number(simulator.rsyncPort()));
+    }
+
     bool start()
     {
         QString error;

@@ -117,9 +117,7 @@ class ProgramPageTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qputenv("RSYNC_CONNECT_PROG",
-                QByteArray("socat - TCP:127.0.0.1:")
-                    + QByteArray::number(m_panel.simulator.rsyncPort()));
+        m_panel.reachDisk();
         programfixture::registerInstructions();
         QVERIFY(m_panel.start());
         QCOMPARE(zeplet::zepletInterface()->createProject("cell", "", true), 0);

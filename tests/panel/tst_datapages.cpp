@@ -52,9 +52,7 @@ class TestDataPages : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qputenv("RSYNC_CONNECT_PROG",
-                QByteArray("socat - TCP:127.0.0.1:")
-                    + QByteArray::number(m_panel.simulator.rsyncPort()));
+        m_panel.reachDisk();
         QVERIFY(m_panel.start());
         QCOMPARE(zepletInterface()->createProject("cell", "", true), 0);
         QTRY_VERIFY(QDir(disk()).exists("hmi/cell"));

@@ -58,9 +58,7 @@ private Q_SLOTS:
                          && m_english[language].match("Motors").hasMatch(),
                      qPrintable(m_english[language].errorString()));
         }
-        qputenv("RSYNC_CONNECT_PROG",
-                QByteArray("socat - TCP:127.0.0.1:")
-                    + QByteArray::number(m_panel.simulator.rsyncPort()));
+        m_panel.reachDisk();
         QVERIFY(QFile::copy(ZEPLET_STATUS, m_panel.directory.filePath("status.so")));
         QVERIFY(m_panel.start());
         QTRY_VERIFY(nexo()->mobj()->getBool("connected", false));

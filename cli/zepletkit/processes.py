@@ -1,5 +1,6 @@
 """Child processes: started without a shell, ended in order, and never left behind."""
 
+import contextlib
 import os
 import shutil
 import signal
@@ -26,7 +27,8 @@ def run(command):
     try:
         return process.wait()
     except BaseException:
-        os.killpg(process.pid, signal.SIGTERM)
+        with contextlib.suppress(ProcessLookupError):  # it ended at that moment
+            os.killpg(process.pid, signal.SIGTERM)
         process.wait()
         raise
 
